@@ -1,0 +1,27 @@
+# What every target of this project is compiled with.
+include_guard()
+
+# Applies the language level, the hidden visibility and the warnings of this project to a target.
+function(nurl_gms_inp_target_defaults target)
+  target_compile_features(${target} PUBLIC cxx_std_20)
+  set_target_properties(
+    ${target}
+    PROPERTIES CXX_EXTENSIONS OFF
+               POSITION_INDEPENDENT_CODE ON
+               CXX_VISIBILITY_PRESET hidden
+               VISIBILITY_INLINES_HIDDEN ON)
+  target_compile_options(
+    ${target}
+    PRIVATE -Wall
+            -Wextra
+            -Wpedantic
+            -Wconversion
+            -Wsign-conversion
+            -Wshadow
+            -Wold-style-cast
+            -Wnon-virtual-dtor
+            -Woverloaded-virtual
+            -Wformat=2
+            $<$<BOOL:${NURL_GMS_INP_WARNINGS_AS_ERRORS}>:-Werror>
+            -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.)
+endfunction()

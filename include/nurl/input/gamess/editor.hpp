@@ -1,0 +1,125 @@
+/// @file
+/// Editing a deck by group and keyword.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "nurl/input/gamess/export.hpp"
+#include "nurl/input/gamess/model.hpp"
+#include "nurl/input/gamess/validation.hpp"
+
+namespace nurl::input::gamess {
+
+/// Owns one document and edits it group by group and keyword by keyword.
+///
+/// Three kinds of group are told apart by name. `CONTRL`, `SYSTEM`, `BASIS`, `SCF` and `GUESS` are
+/// structured: a keyword that their record has a member for goes there when its value converts,
+/// every other one into the record's `extra`. `DATA` holds the molecule and has no keywords. All
+/// others are generic and live in `sections` or `extra_sections`.
+///
+/// Group names and keywords may be given in any case; blanks, tabs and line ends around them and
+/// one leading `$` of a group name are dropped. Values keep their case except where a record holds
+/// text in upper case.
+///
+/// Editing and listing one group is linear in the size of that group and in the number of groups.
+/// There is no undo. `const` members may be called concurrently; a change needs exclusive access.
+///
+///     InputEditor editor{parse_file("water.inp").input};
+///     editor.set_keyword("CONTRL", "RUNTYP", "OPTIMIZE");
+///     editor.input().write_file("water_opt.inp");
+class InputEditor {
+public:
+    /// Takes a document over; nothing in it is changed.
+    NURL_GMS_INP_EXPORT explicit InputEditor(GamessInput input) noexcept;
+
+    /// The document as edited so far; valid as long as the editor.
+    [[nodiscard]] NURL_GMS_INP_EXPORT const GamessInput& input() const noexcept;
+
+    /// Moves the document out of the editor, which must not be used for editing afterwards.
+    [[nodiscard]] NURL_GMS_INP_EXPORT GamessInput take() && noexcept;
+
+    /// Whether the deck has a group. A structured group counts when its record is present, `$DATA`
+    /// when any part of it would be written, a generic group when it is found by name.
+    [[nodiscard]] NURL_GMS_INP_EXPORT bool has_section(std::string_view name) const;
+
+    /// Makes sure that the deck has a group.
+    ///
+    /// A structured group that is absent is engaged empty and gets its place behind the groups of
+    /// `sections`; it is written once it holds a keyword. A generic group is added empty to
+    /// `sections`, or to `extra_sections` when no group was read. A blank name and `DATA` change
+    /// nothing: `$DATA` exists only when the document came with one.
+    NURL_GMS_INP_EXPORT void ensure_section(std::string_view name);
+
+    /// Removes a group, all its copies included. `DATA` loses title, point group, atoms and lines.
+    ///
+    /// @return true when the deck had the group; false for a blank name
+    NURL_GMS_INP_EXPORT bool remove_section(std::string_view name);
+
+    /// The names of the groups, in the order in which the deck is written, each once, upper case,
+    /// without `$`. Linear in the number of groups.
+    [[nodiscard]] NURL_GMS_INP_EXPORT std::vector<std::string> section_names() const;
+
+    /// The findings of `validation::validate` over the document.
+    [[nodiscard]] NURL_GMS_INP_EXPORT std::vector<validation::Issue> validate(
+        const validation::Options& options) const;
+
+    /// Sets a keyword, creating its group when needed.
+    ///
+    /// In a structured group, a value that converts to the type of the record's member is stored
+    /// there and leaves no copy in `extra`; logical members take `.T.`, `T`, `TRUE`, `YES`, `1`,
+    /// `.F.`, `F`, `FALSE` and `NO` in any case, but not `0`. What has no member or does not
+    /// convert is put into `extra`. In a generic group the first entry of the keyword is replaced
+    /// or a new one appended; the keyword is cut out of the raw lines, whose runs of blanks become
+    /// single ones, and raw lines left blank disappear.
+    ///
+    /// @throws std::runtime_error "Section name and keyword must be non-empty" when either is
+    ///         blank; "$DATA does not support key=value editing" for `DATA`; the document is then
+    ///         unchanged
+    NURL_GMS_INP_EXPORT void set_keyword(std::string_view section, std::string_view key,
+                                         std::string_view value);
+
+    /// Sets a keyword that is not there yet, or any keyword when `replace` is true.
+    ///
+    /// @return false, with the document unchanged, when the keyword is there and `replace` is false
+    /// @throws as `set_keyword`
+    NURL_GMS_INP_EXPORT bool add_keyword(std::string_view section, std::string_view key,
+                                         std::string_view value, bool replace);
+
+    /// Removes a keyword.
+    ///
+    /// In a structured group the record's member is cleared when it holds a value, and entries of
+    /// that keyword in `extra` then stay; otherwise they are removed. In a generic group all
+    /// entries of the keyword and its pairs in raw lines go; runs of blanks in raw lines become
+    /// single ones, and lines left blank stay.
+    ///
+    /// @return true when something was removed; false for blank names and for `DATA`
+    NURL_GMS_INP_EXPORT bool remove_keyword(std::string_view section, std::string_view key);
+
+    /// The value of a keyword as `list_keywords` gives it, or nothing when the group lacks it.
+    [[nodiscard]] NURL_GMS_INP_EXPORT std::optional<std::string> get_keyword(
+        std::string_view section, std::string_view key) const;
+
+    /// Whether `get_keyword` gives a value.
+    [[nodiscard]] NURL_GMS_INP_EXPORT bool has_keyword(std::string_view section,
+                                                       std::string_view key) const;
+
+    /// The keywords of a group.
+    ///
+    /// For a structured group these are the entries that would be written, in that order; for a
+    /// generic group its entries and then the pairs in its raw lines, each keyword once, at its
+    /// first place and with its last value. Empty for `DATA` and for a group that is absent.
+    [[nodiscard]] NURL_GMS_INP_EXPORT std::vector<KeyValue> list_keywords(
+        std::string_view section) const;
+
+    /// One group as deck text, without a final newline (`$DATA` ends with one). Empty when the
+    /// deck does not have the group.
+    [[nodiscard]] NURL_GMS_INP_EXPORT std::string render_section(std::string_view section) const;
+
+private:
+    GamessInput input_;
+};
+
+}  // namespace nurl::input::gamess
