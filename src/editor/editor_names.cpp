@@ -1,0 +1,32 @@
+#include "editor/editor_names.hpp"
+
+#include "model/text_view.hpp"
+#include "nurl/core/text.hpp"
+
+namespace nurl::input::gamess::detail {
+
+using core::text::to_upper_copy;
+
+std::string_view editor_trim(std::string_view text) noexcept {
+    return trim_view_if(text,
+                        [](char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; });
+}
+
+bool is_editor_blank(std::string_view text) noexcept { return editor_trim(text).empty(); }
+
+std::string editor_section_name(std::string_view name) {
+    return to_upper_copy(without_dollar(editor_trim(name)));
+}
+
+std::string editor_dollar_name(std::string_view name) {
+    const std::string bare = editor_section_name(name);
+    return bare.empty() ? "$SECTION" : '$' + bare;
+}
+
+std::string editor_key_name(std::string_view key) { return to_upper_copy(editor_trim(key)); }
+
+bool same_editor_key(std::string_view a, std::string_view b) noexcept {
+    return equal_ignoring_case(editor_trim(a), editor_trim(b));
+}
+
+}  // namespace nurl::input::gamess::detail

@@ -1,0 +1,50 @@
+/// @file
+/// The tokenizer of keyword text.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string_view>
+
+#include "nurl/input/gamess/model.hpp"
+#include "reader/parenthesis_table.hpp"
+
+namespace nurl::input::gamess::detail {
+
+/// One pair as it stands in the text.
+struct PairView {
+    std::string_view key;    ///< as written, index suffix included
+    std::string_view value;  ///< as written, without space, tab, LF and CR at its ends; not empty
+    std::size_t begin = 0;   ///< offset of the key
+    std::size_t end = 0;     ///< offset at which the value stopped
+};
+
+/// Finds `KEY=VALUE` pairs one after another; `scan_key_values` states the rules.
+///
+/// The text must outlive the scanner and the views it gives. A whole scan is linear in the length
+/// of the text, and copies nothing unless parentheses are nested.
+class PairScanner {
+public:
+    /// Starts at the beginning of `text`.
+    explicit PairScanner(std::string_view text) noexcept : text_(text) {}
+
+    /// The next pair, or nothing when there is none left.
+    [[nodiscard]] std::optional<PairView> next();
+
+private:
+    [[nodiscard]] std::size_t skip_blanks(std::size_t from) const noexcept;
+    [[nodiscard]] std::size_t find_letter(std::size_t from) const noexcept;
+    [[nodiscard]] std::size_t key_end(std::size_t begin);
+    [[nodiscard]] std::size_t suffix_end(std::size_t open);
+    [[nodiscard]] bool is_pair(std::size_t begin);
+    [[nodiscard]] std::size_t value_end(std::size_t begin);
+
+    std::string_view text_;
+    std::size_t position_ = 0;
+    ParenthesisTable nested_;
+};
+
+/// The pair as an entry of a group: key in upper case, value trimmed.
+[[nodiscard]] KeyValue to_entry(const PairView& pair);
+
+}  // namespace nurl::input::gamess::detail

@@ -1,0 +1,44 @@
+#include "nurl/input/gamess/reader.hpp"
+
+#include <utility>
+
+#include "model/text_view.hpp"
+#include "reader/data_group.hpp"
+#include "reader/deck_line.hpp"
+#include "reader/group_reader.hpp"
+#include "reader/lift.hpp"
+#include "reader/line_cursor.hpp"
+
+namespace nurl::input::gamess {
+
+namespace {
+
+void read_any_group(const detail::HeaderLine& header, detail::LineCursor& lines,
+                    ParseResult& result) {
+    if (detail::equal_ignoring_case(header.name, "DATA")) {
+        detail::read_data_group(header, lines, result);
+        return;
+    }
+    std::vector<NamedSection>& sections = result.input.sections;
+    sections.push_back(detail::read_group(header, lines, result.warnings));
+    detail::lift_structured(sections.back(), result.input);
+}
+
+}  // namespace
+
+ParseResult parse_string(std::string_view text) {
+    ParseResult result;
+    detail::LineCursor lines(detail::without_byte_order_mark(text));
+    while (!lines.at_end()) {
+        if (const auto header = detail::read_header(lines.line())) {
+            result.ok = true;
+            read_any_group(*header, lines, result);
+        } else {
+            lines.advance();
+        }
+    }
+    if (!result.ok) result.error = "The input does not contain any GAMESS sections";
+    return result;
+}
+
+}  // namespace nurl::input::gamess

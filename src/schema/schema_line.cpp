@@ -1,0 +1,61 @@
+#include "schema/schema_line.hpp"
+
+#include <algorithm>
+#include <array>
+
+#include "model/text_view.hpp"
+
+namespace nurl::input::gamess::schema {
+
+namespace {
+
+using detail::trim_view;
+
+std::string_view without_comment(std::string_view line) noexcept {
+    char quote = '\0';
+    for (std::size_t at = 0; at < line.size(); ++at) {
+        const char c = line[at];
+        if (quote == '\0' && c == '#') return line.substr(0, at);
+        if (c != '\'' && c != '"') continue;
+        if (quote == '\0')
+            quote = c;
+        else if (quote == c)
+            quote = '\0';
+    }
+    return line;
+}
+
+std::string_view unquote(std::string_view text) noexcept {
+    text = trim_view(text);
+    const bool is_quoted = text.size() >= 2 && text.front() == text.back() &&
+                           (text.front() == '"' || text.front() == '\'');
+    return is_quoted ? text.substr(1, text.size() - 2) : text;
+}
+
+}  // namespace
+
+SchemaLine read_line(std::string_view line) noexcept {
+    const std::string_view content = without_comment(line);
+    return {trim_view(content), std::min(content.find_first_not_of(' '), content.size())};
+}
+
+std::optional<Property> read_property(std::string_view text) noexcept {
+    const std::size_t colon = text.find(':');
+    if (colon == std::string_view::npos) return std::nullopt;
+    return Property{text.substr(0, colon), unquote(text.substr(colon + 1))};
+}
+
+bool read_flag(std::string_view value, bool otherwise) noexcept {
+    constexpr std::array<std::string_view, 4> true_words{"true", "yes", "on", "1"};
+    constexpr std::array<std::string_view, 4> false_words{"false", "no", "off", "0"};
+    const auto is_spelled = [value](std::string_view word) { return is_word(value, word); };
+    if (std::ranges::any_of(true_words, is_spelled)) return true;
+    if (std::ranges::any_of(false_words, is_spelled)) return false;
+    return otherwise;
+}
+
+bool is_word(std::string_view value, std::string_view word) noexcept {
+    return detail::equal_ignoring_case(detail::without_dollar(trim_view(value)), word);
+}
+
+}  // namespace nurl::input::gamess::schema

@@ -1,0 +1,36 @@
+/// @file
+/// Taking a line of the schema file apart.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string_view>
+
+namespace nurl::input::gamess::schema {
+
+/// A line without its comment. The view points into the line given.
+struct SchemaLine {
+    std::string_view text;        ///< trimmed; empty when there is nothing to read
+    std::size_t indentation = 0;  ///< number of spaces in front; a tab counts as text
+};
+
+/// Cuts a `#` comment that is not within quotes, and measures the rest.
+[[nodiscard]] SchemaLine read_line(std::string_view line) noexcept;
+
+/// A `key: value` line. Both views point into the text given.
+struct Property {
+    std::string_view key;    ///< as written, for comparison by `is_word`
+    std::string_view value;  ///< trimmed, one pair of equal quotes around it dropped
+};
+
+/// Splits a trimmed line at its first colon; nothing when there is none.
+[[nodiscard]] std::optional<Property> read_property(std::string_view text) noexcept;
+
+/// Reads a logical word: true, yes, on, 1 or false, no, off, 0 in any case.
+/// @return `otherwise` for every other text
+[[nodiscard]] bool read_flag(std::string_view value, bool otherwise) noexcept;
+
+/// Whether two words are the same once trimmed, without a leading `$` and without regard to case.
+[[nodiscard]] bool is_word(std::string_view value, std::string_view word) noexcept;
+
+}  // namespace nurl::input::gamess::schema

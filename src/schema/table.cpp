@@ -1,0 +1,33 @@
+#include "schema/table.hpp"
+
+#include "nurl/core/resource.hpp"
+
+namespace nurl::input::gamess::schema {
+
+namespace {
+
+constexpr const char* path_variable = "NURL_GMS_INP_SCHEMA_YAML";
+
+/// A variable that names a regular file goes before everything else.
+std::string find_schema_path() {
+    std::string named = core::resource::getenv_string(path_variable);
+    if (!named.empty() && core::resource::is_regular_file_path(named)) return named;
+    return resolve_schema_path("");
+}
+
+}  // namespace
+
+std::string resolve_schema_path(const std::string& explicit_path) {
+    constexpr int parent_levels = 6;
+    const std::string resources = "resources/schemas/input/gamess.yaml";
+    const std::string installed = "share/nurllib/schemas/input/gamess.yaml";
+    return core::resource::search_file(path_variable, {resources, installed, resources, installed},
+                                       explicit_path, {}, parent_levels);
+}
+
+const Table& schema_table() {
+    static const Table table = load_schema(find_schema_path());
+    return table;
+}
+
+}  // namespace nurl::input::gamess::schema

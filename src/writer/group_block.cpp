@@ -1,0 +1,46 @@
+#include "writer/group_block.hpp"
+
+#include <algorithm>
+
+#include "model/text_view.hpp"
+#include "nurl/core/text.hpp"
+
+namespace nurl::input::gamess::detail {
+
+namespace {
+
+void append_entry_text(const KeyValue& entry, std::string& text) {
+    const std::string_view key = trim_view(entry.key);
+    const std::string_view value = trim_view(entry.value);
+    if (key.empty() || value.empty()) return;
+    text += ' ';
+    std::ranges::transform(key, std::back_inserter(text), to_upper);
+    text += '=';
+    text += value;
+}
+
+}  // namespace
+
+void append_entry(std::vector<KeyValue>& entries, std::string_view key, std::string_view value) {
+    key = trim_view(key);
+    value = trim_view(value);
+    if (key.empty() || value.empty()) return;
+    entries.push_back({core::text::to_upper_copy(key), std::string{value}});
+}
+
+void append_group_block(std::string_view header, std::span<const KeyValue> entries,
+                        std::span<const std::string> raw_lines, std::string& text) {
+    text += ' ';
+    text += header;
+    for (const KeyValue& entry : entries) append_entry_text(entry, text);
+    if (!std::ranges::all_of(raw_lines, is_blank_text)) {
+        text += '\n';
+        for (const std::string& line : raw_lines) {
+            text += line;
+            text += '\n';
+        }
+    }
+    text += " $END";
+}
+
+}  // namespace nurl::input::gamess::detail
