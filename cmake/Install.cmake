@@ -30,8 +30,10 @@ install(FILES ${PROJECT_BINARY_DIR}/nurl_gms_inpConfig.cmake
 
 # pkg-config: paths are relative to the .pc file, so that a moved prefix stays usable.
 set(pkgconfig_dir ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig)
-file(RELATIVE_PATH pc_prefix ${pkgconfig_dir} ${CMAKE_INSTALL_PREFIX})
-file(RELATIVE_PATH pc_includedir ${pkgconfig_dir} ${CMAKE_INSTALL_FULL_INCLUDEDIR})
+cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX BASE_DIRECTORY ${pkgconfig_dir} OUTPUT_VARIABLE
+           pc_prefix)
+cmake_path(RELATIVE_PATH CMAKE_INSTALL_FULL_INCLUDEDIR BASE_DIRECTORY ${pkgconfig_dir}
+           OUTPUT_VARIABLE pc_includedir)
 set(pc_cflags "")
 set(pc_libs_private "")
 if(NOT BUILD_SHARED_LIBS)
