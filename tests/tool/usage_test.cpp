@@ -1,0 +1,85 @@
+// The help texts are files under golden/. To renew them after a change, run the tests once with
+// NURL_TEST_REFRESH_GOLDEN=1 in the environment and look at the difference.
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+#include <doctest/doctest.h>
+
+#include "tool/workplace.hpp"
+
+using nurl::test::Outcome;
+using nurl::test::Workplace;
+
+namespace {
+
+struct HelpText {
+    std::string file;
+    std::vector<std::string> arguments;
+};
+
+const std::vector<HelpText>& help_texts() {
+    static const std::vector<HelpText> texts{
+        {"gms-inp.txt", {"--help"}},          {"check.txt", {"check", "--help"}},
+        {"list.txt", {"list", "--help"}},     {"get.txt", {"get", "--help"}},
+        {"set.txt", {"set", "--help"}},       {"unset.txt", {"unset", "--help"}},
+        {"format.txt", {"format", "--help"}}, {"show.txt", {"show", "--help"}},
+        {"schema.txt", {"schema", "--help"}},
+    };
+    return texts;
+}
+
+bool refreshes_golden() {
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): the tests have one thread
+    return std::getenv("NURL_TEST_REFRESH_GOLDEN") != nullptr;
+}
+
+}  // namespace
+
+TEST_CASE("Help is what it was, on standard output, with status 0") {
+    const Workplace place;
+    for (const auto& [file, arguments] : help_texts()) {
+        CAPTURE(file);
+        const std::filesystem::path golden = std::filesystem::path{NURL_TEST_TOOL_GOLDEN} / file;
+        const Outcome outcome = place.run(arguments);
+        if (refreshes_golden()) nurl::test::make_file(golden, outcome.out);
+        CHECK(outcome == Outcome{0, nurl::test::content(golden), ""});
+    }
+}
+
+TEST_CASE("Help has examples for every subcommand") {
+    const Workplace place;
+    for (const auto& [file, arguments] : help_texts()) {
+        CAPTURE(file);
+        CHECK(place.run(arguments).out.find("Examples:\n  gms-inp ") != std::string::npos);
+    }
+}
+
+TEST_CASE("The version is the project's") {
+    const Workplace place;
+    CHECK(place.run({"--version"}) == Outcome{0, "gms-inp " NURL_TEST_TOOL_VERSION "\n", ""});
+}
+
+TEST_CASE("Wrong usage gives a message on standard error and status 2") {
+    const Workplace place;
+    const std::vector<std::vector<std::string>> usages{
+        {},          {"nosuch"},           {"--nosuch"},     {"check"},
+        {"list"},    {"list", "a", "b"},   {"get", "a"},     {"set", "a"},
+        {"unset"},   {"check", "--wrong"}, {"format", "-o"}, {"list", "check", "a"},
+        {"--schema"}};
+    for (const std::vector<std::string>& usage : usages) {
+        CAPTURE(usage.size());
+        const Outcome outcome = place.run(usage);
+        CHECK(outcome.status == 2);
+        CHECK(outcome.out.empty());
+        CHECK(outcome.err.ends_with("\nRun with --help for more information.\n"));
+    }
+}
+
+TEST_CASE("Control characters of arguments are escaped in messages about usage") {
+    const Workplace place;
+    const Outcome outcome = place.run({"list", "a.inp", "b\033[31m"});
+    CHECK(outcome.err ==
+          "The following argument was not expected: b\\x1B[31m\n"
+          "Run with --help for more information.\n");
+}

@@ -1,0 +1,50 @@
+/// @file
+/// The subcommands of the program.
+#pragma once
+
+#include <functional>
+
+#include "exit_code.hpp"
+
+namespace CLI {
+class App;
+}  // namespace CLI
+
+namespace gms_inp {
+
+/// Runs a subcommand with the arguments that were parsed. Throws `std::runtime_error` on trouble.
+using Runner = std::function<ExitCode()>;
+
+/// One subcommand.
+struct Command {
+    const char* name;             ///< the word on the command line
+    const char* summary;          ///< one line of help
+    Runner (*attach)(CLI::App&);  ///< declares its arguments, examples included, and returns how
+                                  ///< to run it
+};
+
+/// Reports what reading decks had to tolerate and what the schema does not describe.
+[[nodiscard]] Runner attach_check(CLI::App& app);
+
+/// Lists the groups of a deck.
+[[nodiscard]] Runner attach_list(CLI::App& app);
+
+/// Prints a group or the value of a keyword.
+[[nodiscard]] Runner attach_get(CLI::App& app);
+
+/// Sets keywords.
+[[nodiscard]] Runner attach_set(CLI::App& app);
+
+/// Removes keywords and groups.
+[[nodiscard]] Runner attach_unset(CLI::App& app);
+
+/// Writes a deck in canonical layout.
+[[nodiscard]] Runner attach_format(CLI::App& app);
+
+/// Prints the document model.
+[[nodiscard]] Runner attach_show(CLI::App& app);
+
+/// Prints what is known of groups and keywords.
+[[nodiscard]] Runner attach_schema(CLI::App& app);
+
+}  // namespace gms_inp

@@ -1,0 +1,60 @@
+#include "deck_source.hpp"
+
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <fstream>
+#include <stdexcept>
+#include <system_error>
+#include <utility>
+
+#include "diagnostics.hpp"
+#include "nurl/input/gamess/reader.hpp"
+
+namespace gms_inp {
+
+namespace {
+
+using Buffer = std::array<char, 65536>;
+
+[[noreturn]] void throw_read_error(const std::string& name, int error) {
+    const std::string reason = std::generic_category().message(error);
+    throw std::runtime_error("cannot read " + name + ": " + reason);
+}
+
+std::string read_stdin() {
+    std::string text;
+    Buffer buffer{};
+    while (const std::size_t count = std::fread(buffer.data(), 1, buffer.size(), stdin)) {
+        text.append(buffer.data(), count);
+    }
+    if (std::ferror(stdin) != 0) throw_read_error(shown_name("-"), errno);
+    return text;
+}
+
+std::string read_file(const std::string& path) {
+    errno = 0;
+    std::ifstream file{path, std::ios::binary};
+    if (!file) throw_read_error(path, errno);
+    std::string text;
+    Buffer buffer{};
+    while (file) {
+        file.read(buffer.data(), buffer.size());
+        text.append(buffer.data(), static_cast<std::size_t>(file.gcount()));
+    }
+    if (file.bad()) throw_read_error(path, errno);
+    return text;
+}
+
+}  // namespace
+
+Deck read_deck(const std::string& path) {
+    Deck deck;
+    deck.name = shown_name(path);
+    deck.text = path == "-" ? read_stdin() : read_file(path);
+    deck.result = nurl::input::gamess::parse_string(deck.text);
+    if (!deck.result.ok) throw std::runtime_error(deck.name + ": " + deck.result.error);
+    return deck;
+}
+
+}  // namespace gms_inp

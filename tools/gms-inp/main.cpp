@@ -1,0 +1,96 @@
+// Only dispatches: each subcommand is a row of the table and a file under commands/.
+#include <array>
+#include <cstdio>
+#include <exception>
+#include <sstream>
+#include <string>
+
+#include <CLI/CLI.hpp>
+
+#include "command.hpp"
+#include "diagnostics.hpp"
+#include "environment.hpp"
+#include "exit_code.hpp"
+#include "output.hpp"
+#include "terminal.hpp"
+
+namespace gms_inp {
+
+namespace {
+
+constexpr auto commands = std::to_array<Command>({
+    {"check", "Check decks and report findings", attach_check},
+    {"list", "List the groups of a deck", attach_list},
+    {"get", "Print a group or the value of a keyword", attach_get},
+    {"set", "Set keywords and write the deck", attach_set},
+    {"unset", "Remove keywords or groups and write the deck", attach_unset},
+    {"format", "Write the deck in canonical layout", attach_format},
+    {"show", "Print everything that was read from a deck", attach_show},
+    {"schema", "Print what is known about groups and keywords", attach_schema},
+});
+
+constexpr const char* examples = R"(Examples:
+  gms-inp check *.inp
+  gms-inp set water.inp CONTRL.RUNTYP=OPTIMIZE -o water_opt.inp
+  gms-inp set water.inp SCF.DIRSCF=.T. | gms-inp check -
+
+FILE may be - for standard input.
+
+)";
+
+/// Tells the outcome of parsing that ended the program: help, version or wrong usage.
+ExitCode report(const CLI::App& app, const CLI::ParseError& outcome) {
+    std::ostringstream out;
+    std::ostringstream err;
+    const int status = app.exit(outcome, out, err);
+    print(out.str());
+    const std::string message = escape_controls(err.str(), Keep::LineEnds);
+    static_cast<void>(std::fwrite(message.data(), 1, message.size(), stderr));
+    return status == 0 ? ExitCode::Fine : ExitCode::Trouble;
+}
+
+ExitCode run(int argc, const char* const* argv) {
+    CLI::App app{"Reads, checks, edits and writes input decks of the GAMESS program", "gms-inp"};
+    std::string schema;
+    Runner chosen;
+    app.set_version_flag("--version", std::string{"gms-inp "} + GMS_INP_VERSION);
+    const CLI::Option* const schema_option =
+        app.add_option("--schema", schema, "Schema file to use")->type_name("PATH");
+    app.require_subcommand(1);
+    app.footer(examples + exit_code_help());
+    for (const Command& command : commands) {
+        CLI::App* const subcommand = app.add_subcommand(command.name, command.summary);
+        subcommand->fallthrough();
+        subcommand->final_callback(
+            [&chosen, runner = command.attach(*subcommand)] { chosen = runner; });
+    }
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& outcome) {
+        return report(app, outcome);
+    }
+    if (schema_option->count() > 0) use_schema_file(schema);
+    return chosen();
+}
+
+/// Runs the program and makes sure that all of its output arrived.
+ExitCode run_to_the_end(int argc, const char* const* argv) {
+    const ExitCode code = run(argc, argv);
+    finish_output();
+    return code;
+}
+
+}  // namespace
+
+}  // namespace gms_inp
+
+int main(int argc, char** argv) {
+    using gms_inp::ExitCode;
+    try {
+        return gms_inp::status_of(gms_inp::run_to_the_end(argc, argv));
+    } catch (const std::exception& error) {
+        gms_inp::complain(
+            {.place = "gms-inp", .weight = gms_inp::Weight::Error, .message = error.what()});
+    }
+    return gms_inp::status_of(ExitCode::Trouble);
+}
