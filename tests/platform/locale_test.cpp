@@ -1,5 +1,4 @@
 #include <cstdint>
-#include <locale>
 #include <sstream>
 #include <string>
 
@@ -7,38 +6,15 @@
 
 #include "nurl/core/text.hpp"
 #include "platform/double_checks.hpp"
+#include "support/comma_locale.hpp"
 
 using nurl::core::text::to_lower_copy;
 using nurl::core::text::to_upper_copy;
 using nurl::core::text::trim;
 using nurl::core::text::try_parse_int;
+using nurl::test::CommaLocale;
 using nurl::test::is_rejected;
 using nurl::test::reads_as;
-
-namespace {
-
-/// Makes a UTF-8 locale with a decimal comma the program's own for as long as it lives.
-class CommaLocale {
-public:
-    CommaLocale() : before_(std::locale::global(std::locale("C.UTF-8"))) {
-        std::locale::global(std::locale(std::locale(), new Comma));
-    }
-    CommaLocale(const CommaLocale&) = delete;
-    CommaLocale& operator=(const CommaLocale&) = delete;
-    CommaLocale(CommaLocale&&) = delete;
-    CommaLocale& operator=(CommaLocale&&) = delete;
-    ~CommaLocale() { std::locale::global(before_); }
-
-private:
-    struct Comma : std::numpunct<char> {
-        [[nodiscard]] char do_decimal_point() const override { return ','; }
-        [[nodiscard]] char do_thousands_sep() const override { return '.'; }
-        [[nodiscard]] std::string do_grouping() const override { return "\3"; }
-    };
-    std::locale before_;
-};
-
-}  // namespace
 
 TEST_CASE("Numbers are read alike under a locale with a decimal comma") {
     const CommaLocale locale;
