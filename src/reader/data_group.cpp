@@ -40,8 +40,7 @@ std::optional<AtomRecord> read_atom(std::string_view line) {
     if (words.count < atom_words) return std::nullopt;
     std::int32_t index = 0;
     const bool is_indexed = core::text::try_parse_int(words.word[0], index);
-    if (is_indexed && words.count == atom_words) return std::nullopt;
-
+    // Behind an index with too few words, the last field is empty and does not convert.
     const auto field = std::span(words.word).subspan(is_indexed ? 1 : 0, atom_words);
     double charge = 0.0;
     AtomRecord atom;

@@ -49,6 +49,7 @@ TEST_CASE("A path that names nothing gives an error with the path") {
     const std::string path = directory.file("missing.inp");
     CHECK(parse_file(path) == failed_to_open(path));
     CHECK(parse_file("no/such folder/deck.inp") == failed_to_open("no/such folder/deck.inp"));
+    CHECK(parse_file("./no//such/../x.inp") == failed_to_open("./no//such/../x.inp"));
     CHECK(parse_file(" missing ") == failed_to_open(" missing "));
     CHECK(parse_file("") == failed_to_open(""));
 }

@@ -26,7 +26,7 @@ std::string joined(const std::vector<std::string>& parts) {
 /// Bytes that mean something in a schema file come more often than others.
 Text any_text() {
     const auto byte =
-        rc::gen::weightedOneOf<char>({{3, rc::gen::elementOf(std::string{" \n:#'\"$()\r\t\0", 11})},
+        rc::gen::weightedOneOf<char>({{3, rc::gen::elementOf(std::string{" \n:#'\"$()\r\t\0", 12})},
                                       {1, rc::gen::arbitrary<char>()}});
     return rc::gen::container<std::string>(byte);
 }

@@ -1,8 +1,10 @@
 #include <istream>
+#include <sstream>
 #include <stdexcept>
 #include <streambuf>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include <doctest/doctest.h>

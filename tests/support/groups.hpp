@@ -10,6 +10,7 @@
 
 namespace nurl::test {
 
+/// The lists of the document model under short names.
 using Entries = std::vector<nurl::input::gamess::KeyValue>;
 using Lines = std::vector<std::string>;
 using Groups = std::vector<nurl::input::gamess::NamedSection>;

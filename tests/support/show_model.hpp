@@ -25,16 +25,20 @@ namespace nurl::test {
     return result + '"';
 }
 
+/// An entry as `"KEY"="value"`.
 [[nodiscard]] inline std::string shown(const nurl::input::gamess::KeyValue& entry) {
     return shown(entry.key) + '=' + shown(entry.value);
 }
 
+/// Group, keyword and message of a finding.
 [[nodiscard]] inline std::string shown(const nurl::input::gamess::validation::Issue& issue) {
     return shown(issue.section) + ' ' + shown(issue.key) + ' ' + shown(issue.message);
 }
 
+/// A group with its entries and its raw lines.
 [[nodiscard]] inline std::string shown(const nurl::input::gamess::NamedSection& section);
 
+/// The elements of a list in braces.
 template <class Element>
 [[nodiscard]] std::string shown(const std::vector<Element>& list) {
     std::string text = "{";

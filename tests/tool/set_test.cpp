@@ -95,9 +95,9 @@ TEST_CASE("A value that would read back as something else is refused") {
 
 TEST_CASE("Only the first copy of a repeated generic group is edited, with a note") {
     const Workplace place;
-    CHECK(place.run({"set", "-", "STATPT.OPTTOL=3"},
+    CHECK(place.run({"set", "-", "STATPT.OPTTOL=3", "STATPT.NSTEP=5"},
                     {.input = " $STATPT OPTTOL=1 $END\n $STATPT OPTTOL=2 $END\n"}) ==
-          Outcome{0, " $STATPT OPTTOL=3 $END\n $STATPT OPTTOL=2 $END\n",
+          Outcome{0, " $STATPT OPTTOL=3 NSTEP=5 $END\n $STATPT OPTTOL=2 $END\n",
                   "<stdin>: note: $STATPT occurs 2 times; only the first one is looked at\n"});
 }
 

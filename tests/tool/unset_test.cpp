@@ -57,6 +57,13 @@ TEST_CASE("When something named is not there, all of that is named and nothing i
     CHECK(place.names() == std::vector<std::string>{"water.inp"});
 }
 
+TEST_CASE("A keyword is removed from the first copy of a repeated generic group, with a note") {
+    const Workplace place;
+    CHECK(place.run({"unset", "-", "PCM.A"}, {.input = " $PCM A=1 B=0 $END\n $PCM A=2 $END\n"}) ==
+          Outcome{0, " $PCM B=0 $END\n $PCM A=2 $END\n",
+                  "<stdin>: note: $PCM occurs 2 times; only the first one is looked at\n"});
+}
+
 TEST_CASE("Naming something twice removes it once") {
     const Workplace place;
     CHECK(place.run({"unset", "-", "PCM.A", "PCM.A"}, {.input = " $PCM A=1 B=2 $END\n"}).out ==

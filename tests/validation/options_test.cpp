@@ -6,7 +6,6 @@
 #include "validation/findings.hpp"
 
 using nurl::input::gamess::GamessInput;
-using nurl::input::gamess::NamedSection;
 using nurl::input::gamess::validation::Issue;
 using nurl::input::gamess::validation::Options;
 using nurl::input::gamess::validation::Severity;

@@ -1,5 +1,6 @@
 #include "validation/random_document.hpp"
 
+#include <optional>
 #include <ostream>
 #include <string>
 #include <vector>

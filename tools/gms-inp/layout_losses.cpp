@@ -1,5 +1,7 @@
 #include "layout_losses.hpp"
 
+#include <algorithm>
+#include <functional>
 #include <set>
 #include <unordered_set>
 

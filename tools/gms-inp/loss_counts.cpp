@@ -1,6 +1,7 @@
 #include "loss_counts.hpp"
 
 #include <string_view>
+#include <utility>
 
 namespace gms_inp {
 

@@ -23,19 +23,19 @@ NamesBySpec names_by_spec() {
     return names;
 }
 
-std::vector<KeywordView> sorted_keywords(const schema::SectionSpec& spec) {
+std::vector<KeywordView> sorted_keywords(const schema::SectionSpec& section) {
     std::vector<KeywordView> keywords;
-    for (const auto& [name, entry] : spec.entries) keywords.push_back({to_upper(name), entry});
+    for (const auto& [name, entry] : section.entries) keywords.push_back({to_upper(name), entry});
     std::ranges::sort(keywords, {}, &KeywordView::name);
     return keywords;
 }
 
 GroupView view_of(const std::string& name, const NamesBySpec& names) {
-    const schema::SectionSpec* const spec = schema::find_section(name);
+    const schema::SectionSpec* const section = schema::find_section(name);
     GroupView view{.name = to_upper(name),
-                   .spec = spec,
-                   .same_as = names.at(spec),
-                   .keywords = sorted_keywords(*spec)};
+                   .section = section,
+                   .same_as = names.at(section),
+                   .keywords = sorted_keywords(*section)};
     std::erase(view.same_as, view.name);
     return view;
 }

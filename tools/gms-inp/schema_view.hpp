@@ -13,14 +13,14 @@ namespace gms_inp {
 
 /// A keyword of a group.
 struct KeywordView {
-    std::string name;                             ///< upper case, without index
-    nurl::input::gamess::schema::EntrySpec spec;  ///< what is known of it
+    std::string name;                              ///< upper case, without index
+    nurl::input::gamess::schema::EntrySpec entry;  ///< what is known of it
 };
 
 /// A group.
 struct GroupView {
-    std::string name;                                      ///< upper case, without `$`
-    const nurl::input::gamess::schema::SectionSpec* spec;  ///< what is known of it; never null
+    std::string name;                                         ///< upper case, without `$`
+    const nurl::input::gamess::schema::SectionSpec* section;  ///< what is known of it; never null
     std::vector<std::string> same_as;   ///< other groups of the same description, sorted
     std::vector<KeywordView> keywords;  ///< its keywords, sorted
 };

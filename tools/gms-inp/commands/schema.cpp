@@ -52,7 +52,7 @@ std::string table_of(std::span<const GroupView> groups) {
     std::vector<Row> rows;
     rows.reserve(groups.size());
     for (const GroupView& group : groups) {
-        rows.push_back({group.name, std::string{text_of(group.spec->parse_mode)},
+        rows.push_back({group.name, std::string{text_of(group.section->parse_mode)},
                         std::to_string(group.keywords.size()), joined(group.same_as)});
     }
     return format_table(columns, rows);
@@ -62,30 +62,30 @@ std::string table_of(std::span<const KeywordView> keywords) {
     const std::vector<Column> columns{{"keyword"}, {"kind"}, {"type"}, {"indexed"}, {"repeated"}};
     std::vector<Row> rows;
     rows.reserve(keywords.size());
-    for (const auto& [name, spec] : keywords) {
-        rows.push_back({name, std::string{text_of(spec.kind)}, spec.value_type,
-                        yes_or_no(spec.indexed), yes_or_no(spec.repeated)});
+    for (const auto& [name, entry] : keywords) {
+        rows.push_back({name, std::string{text_of(entry.kind)}, entry.value_type,
+                        yes_or_no(entry.indexed), yes_or_no(entry.repeated)});
     }
     return format_table(columns, rows);
 }
 
 Json json_of(const KeywordView& keyword) {
     return {{"name", keyword.name},
-            {"kind", text_of(keyword.spec.kind)},
-            {"value_type", keyword.spec.value_type},
-            {"indexed", keyword.spec.indexed},
-            {"repeated", keyword.spec.repeated}};
+            {"kind", text_of(keyword.entry.kind)},
+            {"value_type", keyword.entry.value_type},
+            {"indexed", keyword.entry.indexed},
+            {"repeated", keyword.entry.repeated}};
 }
 
 Json json_of(const GroupView& group) {
     Json keywords = Json::array();
     for (const KeywordView& keyword : group.keywords) keywords.push_back(json_of(keyword));
     return {{"name", group.name},
-            {"mode", text_of(group.spec->parse_mode)},
+            {"mode", text_of(group.section->parse_mode)},
             {"same_as", group.same_as},
-            {"requires_end", group.spec->requires_end},
-            {"allow_unknown_entries", group.spec->allow_unknown_entries},
-            {"allow_raw_lines", group.spec->allow_raw_lines},
+            {"requires_end", group.section->requires_end},
+            {"allow_unknown_entries", group.section->allow_unknown_entries},
+            {"allow_raw_lines", group.section->allow_raw_lines},
             {"keywords", std::move(keywords)}};
 }
 
@@ -125,9 +125,9 @@ ExitCode run(const Options& options) {
     const KeywordPath path = parse_path(options.path);
     if (const auto group = group_of_schema(path.group)) {
         if (path.key.empty()) return print_group(*group, options);
-        if (const auto* const spec =
+        if (const auto* const entry =
                 nurl::input::gamess::schema::find_entry(path.group, path.key)) {
-            return print_keyword({.name = path.key, .spec = *spec}, options);
+            return print_keyword({.name = path.key, .entry = *entry}, options);
         }
     }
     const std::string message = text_of(path) + " is not in the schema";

@@ -1,4 +1,6 @@
+#include <algorithm>
 #include <memory>
+#include <set>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -72,10 +74,12 @@ ExitCode run(const Options& options) {
     refuse_to_overwrite_input(options.target);
     const Deck deck = read_deck(options.target.file);
     gamess::InputEditor editor{deck.result.input};
+    std::set<std::string> groups;
     for (const Assignment& assignment : assignments) {
-        warn_of_copies(deck, assignment.path.group);
+        groups.insert(assignment.path.group);
         apply(assignment, editor);
     }
+    for (const std::string& group : groups) warn_of_copies(deck, group);
     check_that_values_read_back(assignments, editor);
     write_edited(deck, editor.input(), options.target);
     return ExitCode::Fine;

@@ -1,4 +1,5 @@
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -66,10 +67,12 @@ ExitCode run(const Options& options) {
     const Deck deck = read_deck(options.target.file);
     gamess::InputEditor editor{deck.result.input};
     if (!complain_of_missing(deck, editor, paths)) return ExitCode::Findings;
+    std::set<std::string> groups;
     for (const KeywordPath& path : paths) {
-        if (!path.key.empty()) warn_of_copies(deck, path.group);
+        if (!path.key.empty()) groups.insert(path.group);
         remove(path, editor);
     }
+    for (const std::string& group : groups) warn_of_copies(deck, group);
     write_edited(deck, editor.input(), options.target);
     return ExitCode::Fine;
 }
