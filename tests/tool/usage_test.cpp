@@ -38,10 +38,11 @@ bool refreshes_golden() {
 
 TEST_CASE("Help is what it was, on standard output, with status 0") {
     const Workplace place;
-    for (const auto& [file, arguments] : help_texts()) {
-        CAPTURE(file);
-        const std::filesystem::path golden = std::filesystem::path{NURL_TEST_TOOL_GOLDEN} / file;
-        const Outcome outcome = place.run(arguments);
+    for (const HelpText& help : help_texts()) {
+        CAPTURE(help.file);
+        const std::filesystem::path golden =
+            std::filesystem::path{NURL_TEST_TOOL_GOLDEN} / help.file;
+        const Outcome outcome = place.run(help.arguments);
         if (refreshes_golden()) nurl::test::make_file(golden, outcome.out);
         CHECK(outcome == Outcome{0, nurl::test::content(golden), ""});
     }
@@ -49,9 +50,9 @@ TEST_CASE("Help is what it was, on standard output, with status 0") {
 
 TEST_CASE("Help has examples for every subcommand") {
     const Workplace place;
-    for (const auto& [file, arguments] : help_texts()) {
-        CAPTURE(file);
-        CHECK(place.run(arguments).out.find("Examples:\n  gms-inp ") != std::string::npos);
+    for (const HelpText& help : help_texts()) {
+        CAPTURE(help.file);
+        CHECK(place.run(help.arguments).out.find("Examples:\n  gms-inp ") != std::string::npos);
     }
 }
 
