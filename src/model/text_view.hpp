@@ -46,6 +46,11 @@ constexpr std::string_view without_dollar(std::string_view text) noexcept {
     return text;
 }
 
+/// `text` without an index suffix: cut at its first `(` when a `)` ends it.
+constexpr std::string_view without_index(std::string_view text) noexcept {
+    return text.ends_with(')') ? text.substr(0, text.find('(')) : text;
+}
+
 /// `text` without a UTF-8 byte-order mark at its start.
 constexpr std::string_view without_byte_order_mark(std::string_view text) noexcept {
     constexpr std::string_view mark = "\xEF\xBB\xBF";

@@ -6,7 +6,7 @@
 #include "model/text_view.hpp"
 #include "nurl/core/text.hpp"
 #include "nurl/input/gamess/schema.hpp"
-#include "reader/pair_scanner.hpp"
+#include "reader/pair_split.hpp"
 
 namespace nurl::input::gamess::detail {
 
@@ -43,15 +43,7 @@ public:
 
 private:
     void add_keyword_text(std::string_view text, std::string_view kept) {
-        leftover_.clear();
-        std::size_t copied = 0;
-        PairScanner scanner(text);
-        while (const auto pair = scanner.next()) {
-            section_.entries.push_back(to_entry(*pair));
-            leftover_.append(text.substr(copied, pair->begin - copied));
-            copied = pair->end;
-        }
-        leftover_.append(text.substr(copied));
+        split_pairs(text, section_.entries, leftover_);
         add_leftover(trim_view(leftover_), kept);
     }
 

@@ -5,7 +5,6 @@
 #include "reader/pair_scanner.hpp"
 
 #include "model/text_view.hpp"
-#include "nurl/core/text.hpp"
 
 namespace nurl::input::gamess::detail {
 
@@ -76,10 +75,6 @@ std::size_t PairScanner::value_end(std::size_t begin) {
         at = next;
     }
     return at;
-}
-
-KeyValue to_entry(const PairView& pair) {
-    return {core::text::to_upper_copy(pair.key), core::text::trim(pair.value)};
 }
 
 }  // namespace nurl::input::gamess::detail

@@ -6,7 +6,6 @@
 #include <optional>
 #include <string_view>
 
-#include "nurl/input/gamess/model.hpp"
 #include "reader/parenthesis_table.hpp"
 
 namespace nurl::input::gamess::detail {
@@ -43,8 +42,5 @@ private:
     std::size_t position_ = 0;
     ParenthesisTable nested_;
 };
-
-/// The pair as an entry of a group: key in upper case, value trimmed.
-[[nodiscard]] KeyValue to_entry(const PairView& pair);
 
 }  // namespace nurl::input::gamess::detail

@@ -21,9 +21,8 @@ std::string normalize_section_name(std::string_view name) {
 }
 
 std::string normalize_entry_name(std::string_view name) {
-    std::string entry = normalize_section_name(name);
-    if (entry.ends_with(')')) entry.resize(std::min(entry.find('('), entry.size()));
-    return core::text::trim(entry);
+    const std::string entry = normalize_section_name(name);
+    return core::text::trim(detail::without_index(entry));
 }
 
 const SectionSpec* find_section(std::string_view section) {

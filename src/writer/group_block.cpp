@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "model/text_view.hpp"
-#include "nurl/core/text.hpp"
 
 namespace nurl::input::gamess::detail {
 
@@ -20,13 +19,6 @@ void append_entry_text(const KeyValue& entry, std::string& text) {
 }
 
 }  // namespace
-
-void append_entry(std::vector<KeyValue>& entries, std::string_view key, std::string_view value) {
-    key = trim_view(key);
-    value = trim_view(value);
-    if (key.empty() || value.empty()) return;
-    entries.push_back({core::text::to_upper_copy(key), std::string{value}});
-}
 
 void append_group_block(std::string_view header, std::span<const KeyValue> entries,
                         std::span<const std::string> raw_lines, std::string& text) {

@@ -11,10 +11,6 @@
 
 namespace nurl::input::gamess::detail {
 
-/// Appends an entry with its key in upper case and both texts trimmed; nothing when either is
-/// blank.
-void append_entry(std::vector<KeyValue>& entries, std::string_view key, std::string_view value);
-
 /// Appends the block of a group: a blank, the header, the entries that `append_entry` would take,
 /// the raw lines and `$END`, without a final newline.
 ///

@@ -5,11 +5,11 @@
 #include <string>
 #include <variant>
 
+#include "model/entries.hpp"
 #include "model/structured_fields.hpp"
 #include "model/structured_groups.hpp"
 #include "nurl/core/text.hpp"
 #include "nurl/input/gamess/writer.hpp"
-#include "writer/group_block.hpp"
 
 namespace nurl::input::gamess::detail {
 

@@ -3,6 +3,7 @@
 
 #include <doctest/doctest.h>
 
+#include "model/entries.hpp"
 #include "support/groups.hpp"
 #include "support/show_model.hpp"
 #include "writer/group_block.hpp"

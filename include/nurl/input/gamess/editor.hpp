@@ -9,6 +9,7 @@
 
 #include "nurl/input/gamess/export.hpp"
 #include "nurl/input/gamess/model.hpp"
+#include "nurl/input/gamess/typed.hpp"
 #include "nurl/input/gamess/validation.hpp"
 
 namespace nurl::input::gamess {
@@ -117,6 +118,58 @@ public:
     /// One group as deck text, without a final newline (`$DATA` ends with one). Empty when the
     /// deck does not have the group.
     [[nodiscard]] NURL_GMS_INP_EXPORT std::string render_section(std::string_view section) const;
+
+    /// `$TDDFT` as a typed record; nothing when the deck does not have the group.
+    [[nodiscard]] NURL_GMS_INP_EXPORT std::optional<typed::TddftSection> get_tddft_section() const;
+    /// Replaces `$TDDFT` as a whole, or adds it as `typed::set_tddft_section` does.
+    NURL_GMS_INP_EXPORT void set_tddft_section(const typed::TddftSection& record);
+
+    /// `$STATPT` as a typed record; nothing when the deck does not have the group.
+    [[nodiscard]] NURL_GMS_INP_EXPORT std::optional<typed::StatptSection> get_statpt_section()
+        const;
+    /// Replaces `$STATPT` as a whole, or adds it as `typed::set_statpt_section` does.
+    NURL_GMS_INP_EXPORT void set_statpt_section(const typed::StatptSection& record);
+
+    /// `$FORCE` as a typed record; nothing when the deck does not have the group.
+    [[nodiscard]] NURL_GMS_INP_EXPORT std::optional<typed::ForceSection> get_force_section() const;
+    /// Replaces `$FORCE` as a whole, or adds it as `typed::set_force_section` does.
+    NURL_GMS_INP_EXPORT void set_force_section(const typed::ForceSection& record);
+
+    /// `$PCM` as a typed record; nothing when the deck does not have the group.
+    [[nodiscard]] NURL_GMS_INP_EXPORT std::optional<typed::PcmSection> get_pcm_section() const;
+    /// Replaces `$PCM` as a whole, or adds it as `typed::set_pcm_section` does.
+    NURL_GMS_INP_EXPORT void set_pcm_section(const typed::PcmSection& record);
+
+    /// `$FMO` as a typed record; nothing when the deck does not have the group.
+    [[nodiscard]] NURL_GMS_INP_EXPORT std::optional<typed::FmoSection> get_fmo_section() const;
+    /// Replaces `$FMO` as a whole, or adds it as `typed::set_fmo_section` does.
+    NURL_GMS_INP_EXPORT void set_fmo_section(const typed::FmoSection& record);
+
+    /// `$SURF` as a typed record; nothing when the deck does not have the group.
+    [[nodiscard]] NURL_GMS_INP_EXPORT std::optional<typed::SurfSection> get_surf_section() const;
+    /// Replaces `$SURF` as a whole, or adds it as `typed::set_surf_section` does.
+    NURL_GMS_INP_EXPORT void set_surf_section(const typed::SurfSection& record);
+
+    /// `$CCINP` as a typed record; nothing when the deck does not have the group.
+    [[nodiscard]] NURL_GMS_INP_EXPORT std::optional<typed::CcinpSection> get_ccinp_section() const;
+    /// Replaces `$CCINP` as a whole, or adds it as `typed::set_ccinp_section` does.
+    NURL_GMS_INP_EXPORT void set_ccinp_section(const typed::CcinpSection& record);
+
+    /// `$EOMINP` as a typed record; nothing when the deck does not have the group.
+    [[nodiscard]] NURL_GMS_INP_EXPORT std::optional<typed::EominpSection> get_eominp_section()
+        const;
+    /// Replaces `$EOMINP` as a whole, or adds it as `typed::set_eominp_section` does.
+    NURL_GMS_INP_EXPORT void set_eominp_section(const typed::EominpSection& record);
+
+    /// `$MD` as a typed record; nothing when the deck does not have the group.
+    [[nodiscard]] NURL_GMS_INP_EXPORT std::optional<typed::MdSection> get_md_section() const;
+    /// Replaces `$MD` as a whole, or adds it as `typed::set_md_section` does.
+    NURL_GMS_INP_EXPORT void set_md_section(const typed::MdSection& record);
+
+    /// `$DFTB` as a typed record; nothing when the deck does not have the group.
+    [[nodiscard]] NURL_GMS_INP_EXPORT std::optional<typed::DftbSection> get_dftb_section() const;
+    /// Replaces `$DFTB` as a whole, or adds it as `typed::set_dftb_section` does.
+    NURL_GMS_INP_EXPORT void set_dftb_section(const typed::DftbSection& record);
 
 private:
     GamessInput input_;

@@ -1,0 +1,51 @@
+#include <utility>
+
+#include "model/entries.hpp"
+#include "model/text_view.hpp"
+#include "nurl/core/text.hpp"
+#include "nurl/input/gamess/typed/detail.hpp"
+#include "reader/pair_split.hpp"
+
+namespace nurl::input::gamess::typed::detail {
+
+namespace {
+
+using core::text::to_upper_copy;
+using gamess::detail::is_blank_text;
+using gamess::detail::normalised_entry;
+using gamess::detail::trim_view;
+
+void collect_line(const std::string& line, SectionContent& content) {
+    const std::size_t before = content.entries.size();
+    std::string leftover;
+    gamess::detail::split_pairs(line, content.entries, leftover);
+    const bool has_pairs = content.entries.size() > before;
+    if (is_blank_text(leftover)) return;
+    content.raw_lines.emplace_back(has_pairs ? trim_view(leftover) : line);
+}
+
+}  // namespace
+
+SectionContent collect_section_content(const NamedSection& section) {
+    SectionContent content;
+    for (const KeyValue& entry : section.entries)
+        content.entries.push_back(normalised_entry(entry.key, entry.value));
+    for (const std::string& line : section.raw_lines) collect_line(line, content);
+    return content;
+}
+
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the signature is part of the contract
+NamedSection make_named_section(std::string name, std::vector<KeyValue> entries,
+                                std::vector<KeyValue> extra_entries,
+                                std::vector<std::string> raw_lines) {
+    for (const KeyValue& entry : extra_entries)
+        entries.push_back(normalised_entry(entry.key, entry.value));
+    return {to_upper_copy(trim_view(name)), std::move(entries), std::move(raw_lines)};
+}
+
+void set_named_section(GamessInput& input, std::string_view name, NamedSection section) {
+    section.name = to_upper_copy(trim_view(name));
+    input.upsert_section(std::string{name}) = std::move(section);
+}
+
+}  // namespace nurl::input::gamess::typed::detail
