@@ -24,7 +24,7 @@ const std::vector<HelpText>& help_texts() {
         {"list.txt", {"list", "--help"}},     {"get.txt", {"get", "--help"}},
         {"set.txt", {"set", "--help"}},       {"unset.txt", {"unset", "--help"}},
         {"format.txt", {"format", "--help"}}, {"show.txt", {"show", "--help"}},
-        {"schema.txt", {"schema", "--help"}},
+        {"schema.txt", {"schema", "--help"}}, {"new.txt", {"new", "--help"}},
     };
     return texts;
 }

@@ -41,7 +41,10 @@ struct Command {
 /// Writes a deck in canonical layout.
 [[nodiscard]] Runner attach_format(CLI::App& app);
 
-/// Prints the document model.
+/// Builds a deck from a molecule.
+[[nodiscard]] Runner attach_new(CLI::App& app);
+
+/// Prints the document model, or one typed record.
 [[nodiscard]] Runner attach_show(CLI::App& app);
 
 /// Prints what is known of groups and keywords.

@@ -48,10 +48,14 @@ std::string read_file(const std::string& path) {
 
 }  // namespace
 
+std::string read_text(const std::string& path) {
+    return path == "-" ? read_stdin() : read_file(path);
+}
+
 Deck read_deck(const std::string& path) {
     Deck deck;
     deck.name = shown_name(path);
-    deck.text = path == "-" ? read_stdin() : read_file(path);
+    deck.text = read_text(path);
     deck.result = nurl::input::gamess::parse_string(deck.text);
     if (!deck.result.ok) throw std::runtime_error(deck.name + ": " + deck.result.error);
     return deck;

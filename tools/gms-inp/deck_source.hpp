@@ -15,6 +15,12 @@ struct Deck {
     nurl::input::gamess::ParseResult result;  ///< what the reader made of them; always `ok`
 };
 
+/// Reads a file as it is.
+///
+/// @param path  a file, or `-` for standard input
+/// @throws std::runtime_error when it cannot be read; the message names it
+[[nodiscard]] std::string read_text(const std::string& path);
+
 /// Reads a deck.
 ///
 /// @param path  a file, or `-` for standard input

@@ -8,9 +8,13 @@
 #include "diagnostics.hpp"
 #include "group_text.hpp"
 #include "layout_losses.hpp"
+#include "nurl/input/gamess/editor.hpp"
+#include "nurl/input/gamess/reader.hpp"
 #include "output.hpp"
 
 namespace gms_inp {
+
+namespace gamess = nurl::input::gamess;
 
 void refuse_to_overwrite_input(const EditTarget& target) {
     namespace fs = std::filesystem;
@@ -25,26 +29,39 @@ void refuse_to_overwrite_input(const EditTarget& target) {
 
 void warn_of_copies(const Deck& deck, const std::string& group) {
     if (kind_of_group(group) == GroupKind::Structured) return;
-    const auto copies = std::ranges::count(deck.result.input.sections, group,
-                                           &nurl::input::gamess::NamedSection::name);
+    const auto copies =
+        std::ranges::count(deck.result.input.sections, group, &gamess::NamedSection::name);
     if (copies < 2) return;
     const std::string message = "$" + group + " occurs " + std::to_string(copies) +
                                 " times; only the first one is looked at";
     complain({.place = deck.name, .weight = Weight::Note, .message = message});
 }
 
-void write_edited(const Deck& deck, const nurl::input::gamess::GamessInput& edited,
-                  const EditTarget& target) {
-    const std::string text = edited.to_string();
-    if (target.output == "-") {
-        print_deck_text(text);
-        finish_output();
-    } else {
-        edited.write_file(target.output);
+void check_that_values_read_back(const std::vector<Assignment>& assignments,
+                                 const gamess::GamessInput& edited) {
+    const gamess::InputEditor wanted{edited};
+    const gamess::InputEditor again{gamess::parse_string(edited.to_string()).input};
+    for (const auto& [path, value] : assignments) {
+        const auto kept = wanted.get_keyword(path.group, path.key);
+        if (kept && again.get_keyword(path.group, path.key) == kept) continue;
+        throw std::runtime_error("cannot be written so that it reads back: " + text_of(path) + "=" +
+                                 value);
     }
-    for (const std::string& sentence : layout_losses(deck, edited, text)) {
+}
+
+void write_deck(const gamess::GamessInput& input, const std::string& output) {
+    if (output != "-") {
+        input.write_file(output);
+        return;
+    }
+    print_deck_text(input.to_string());
+    finish_output();
+}
+
+void write_edited(const Deck& deck, const gamess::GamessInput& edited, const EditTarget& target) {
+    write_deck(edited, target.output);
+    for (const std::string& sentence : layout_losses(deck, edited, edited.to_string()))
         complain({.place = deck.name, .weight = Weight::Note, .message = sentence});
-    }
 }
 
 }  // namespace gms_inp

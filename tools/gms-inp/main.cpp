@@ -25,6 +25,7 @@ constexpr auto commands = std::to_array<Command>({
     {"set", "Set keywords and write the deck", attach_set},
     {"unset", "Remove keywords or groups and write the deck", attach_unset},
     {"format", "Write the deck in canonical layout", attach_format},
+    {"new", "Build a deck from an XYZ file", attach_new},
     {"show", "Print everything that was read from a deck", attach_show},
     {"schema", "Print what is known about groups and keywords", attach_schema},
 });

@@ -1,0 +1,119 @@
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <CLI/CLI.hpp>
+
+#include "command.hpp"
+#include "deck_source.hpp"
+#include "diagnostics.hpp"
+#include "edited_deck.hpp"
+#include "keyword_path.hpp"
+#include "nurl/input/gamess/builder.hpp"
+#include "nurl/input/gamess/editor.hpp"
+#include "xyz.hpp"
+
+namespace gms_inp {
+
+namespace {
+
+namespace gamess = nurl::input::gamess;
+
+constexpr const char* footer =
+    R"(The XYZ file holds one molecule: the number of atoms, a comment, and 'symbol x y z'
+for each atom in angstrom. The comment becomes the title unless --title is given.
+Without options the deck asks for the RHF energy of a neutral singlet in C1.
+
+Examples:
+  gms-inp new --xyz water.xyz --basis N31 --set BASIS.NGAUSS=6 -o water.inp
+  gms-inp new --xyz radical.xyz --mult 2 --scftyp UHF --basis CCD -o radical.inp
+  gms-inp new --xyz - --runtyp OPTIMIZE --set STATPT.NSTEP=100 < start.xyz)";
+
+struct Options {
+    EditTarget target;
+    int charge = 0;
+    int multiplicity = 1;
+    std::string scftyp = "RHF";
+    std::string runtyp = "ENERGY";
+    std::string basis;
+    std::optional<std::string> title;
+    std::string point_group = "C1";
+    std::vector<std::string> assignments;
+};
+
+gamess::InputBuilder build(const Options& options, const XyzMolecule& molecule) {
+    gamess::InputBuilder builder;
+    builder.set_charge_and_multiplicity(options.charge, options.multiplicity)
+        .set_scftyp(options.scftyp)
+        .set_runtyp(options.runtyp)
+        .set_title(options.title.value_or(molecule.comment))
+        .set_point_group(options.point_group)
+        .set_geometry(molecule.atoms);
+    if (!options.basis.empty()) builder.set_basis_keyword(options.basis);
+    return builder;
+}
+
+/// Says what is odd about a deck that can be written all the same.
+void warn_of_oddities(const std::string& name, const gamess::GamessInput& input) {
+    const auto warn = [&name](const std::string& message) {
+        complain({.place = name, .weight = Weight::Warning, .message = message});
+    };
+    for (const gamess::AtomRecord& atom : input.atoms)
+        if (!atom.nuclear_charge)
+            warn("'" + atom.symbol + "' is no element; it is written with charge 0.0");
+    if (!input.basis) warn("no basis set: give --basis or --set BASIS.GBASIS=...");
+    if (input.control.scftyp == "RHF" && input.control.mult != 1)
+        warn("SCFTYP=RHF stands for singlets only: give --scftyp ROHF or UHF");
+}
+
+ExitCode run(const Options& options) {
+    std::vector<Assignment> assignments;
+    for (const std::string& text : options.assignments)
+        assignments.push_back(parse_assignment(text));
+    refuse_to_overwrite_input(options.target);
+    const std::string name = shown_name(options.target.file);
+    const XyzMolecule molecule = read_xyz(read_text(options.target.file));
+    if (molecule.faulty_line > 0) {
+        complain({.place = name,
+                  .line = molecule.faulty_line,
+                  .weight = Weight::Error,
+                  .message = molecule.fault});
+        return ExitCode::Trouble;
+    }
+    gamess::InputEditor editor{build(options, molecule).input()};
+    // Gives the groups that are there a place in front of those that --set adds.
+    for (const std::string& group : editor.section_names()) editor.ensure_section(group);
+    for (const auto& [path, value] : assignments) editor.set_keyword(path.group, path.key, value);
+    check_that_values_read_back(assignments, editor.input());
+    warn_of_oddities(name, editor.input());
+    write_deck(editor.input(), options.target.output);
+    return ExitCode::Fine;
+}
+
+}  // namespace
+
+Runner attach_new(CLI::App& app) {
+    const auto options = std::make_shared<Options>();
+    app.add_option("--xyz", options->target.file, "The molecule, or - for standard input")
+        ->required()
+        ->type_name("FILE");
+    app.add_option("--charge", options->charge, "Charge of the molecule")->type_name("N");
+    app.add_option("--mult", options->multiplicity, "Spin multiplicity")->type_name("N");
+    app.add_option("--scftyp", options->scftyp, "Wavefunction, such as RHF, ROHF or UHF")
+        ->type_name("WORD");
+    app.add_option("--runtyp", options->runtyp, "Kind of run, such as ENERGY or OPTIMIZE")
+        ->type_name("WORD");
+    app.add_option("--basis", options->basis, "Basis set, the value of GBASIS")->type_name("WORD");
+    app.add_option("--title", options->title, "Title line")->type_name("TEXT");
+    app.add_option("--point-group", options->point_group, "Point-group line")->type_name("TEXT");
+    app.add_option("--set", options->assignments, "Further keyword, may be repeated")
+        ->type_name("GROUP.KEY=VALUE")
+        ->allow_extra_args(false);
+    app.add_option("-o,--output", options->target.output, "File to write, or - for standard output")
+        ->type_name("FILE");
+    app.footer(footer);
+    return [options] { return run(*options); };
+}
+
+}  // namespace gms_inp
