@@ -3,7 +3,7 @@
 A line `$ COMMAND` is run by a shell in a copy of the examples; the lines behind it are what it prints
 on standard output and standard error.
 
-usage: run_console.py TOOL SOURCE_DIR PAGE...
+usage: run_console.py PATH SOURCE_DIR PAGE...      PATH lists the folders of the programs
 """
 
 import os
@@ -27,8 +27,8 @@ def steps(block):
     return found
 
 
-def run(command, folder, tool):
-    path = f"{tool.parent}{os.pathsep}{os.environ['PATH']}"
+def run(command, folder, programs):
+    path = f"{programs}{os.pathsep}{os.environ['PATH']}"
     result = subprocess.run(command, shell=True, cwd=folder, env={**os.environ, "PATH": path},
                             stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                             stderr=subprocess.STDOUT, text=True, check=False)
@@ -36,14 +36,15 @@ def run(command, folder, tool):
 
 
 def main():
-    tool, source, *pages = map(pathlib.Path, sys.argv[1:])
+    programs = sys.argv[1]
+    source, *pages = map(pathlib.Path, sys.argv[2:])
     faults = 0
     with tempfile.TemporaryDirectory() as folder:
         shutil.copytree(source / "examples", pathlib.Path(folder) / "examples")
         for page in pages:
             for command, expected in (step for block in blocks(page, "console")
                                       for step in steps(block)):
-                printed = run(command, folder, tool)
+                printed = run(command, folder, programs)
                 if printed != expected:
                     faults += 1
                     print(f"{page.name}: $ {command}expected:\n{expected}printed:\n{printed}")
