@@ -31,7 +31,8 @@ Entries with_single_blanks(Entries entries) {
     for (KeyValue& entry : entries) {
         std::ranges::replace(entry.value, '\t', ' ');
         const auto is_run = [](char a, char b) { return a == ' ' && b == ' '; };
-        entry.value.erase(std::ranges::unique(entry.value, is_run).begin(), entry.value.end());
+        entry.value.erase(std::unique(entry.value.begin(), entry.value.end(), is_run),
+                          entry.value.end());
     }
     return entries;
 }

@@ -183,7 +183,7 @@ TEST_CASE("Removing a keyword that a generic group lacks gives false and tidies 
     CHECK(after_remove(deck, "X", "K") == EditResult{false, expected});
 }
 
-TEST_CASE("Only the first group of the name is edited, read groups before added ones") {
+TEST_CASE("Only the first group of a name loses its keyword, read groups before added ones") {
     GamessInput deck = deck_of({group("X", {{"K", "1"}}), group("x", {{"K", "2"}})});
     deck.extra_sections = {group("X", {{"K", "3"}}), group("Y", {{"K", "4"}})};
     GamessInput expected = deck;
