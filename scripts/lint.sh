@@ -11,8 +11,10 @@ for check in file_length include_direction forbidden_functions docstrings wordin
     python3 "scripts/checks/$check.py"
 done
 
+scripts/check_schema
+
 echo "lint: clang-format"
-find include src platform tools tests \( -name '*.hpp' -o -name '*.cpp' \) -print0 |
+find include src platform tools tests bench examples \( -name '*.hpp' -o -name '*.cpp' \) -print0 |
     xargs -0 clang-format-14 --dry-run --Werror
 
 if [[ ${1:-} == --quick ]]; then exit 0; fi

@@ -2,13 +2,16 @@
 # Installs the Debian packages that are missing for building and testing, and asks for nothing.
 #
 #   scripts/setup.sh            the compiler, CMake, and what the tool and the tests use
+#   scripts/setup.sh --bench    also what the benchmarks use
 #   scripts/setup.sh --checks   also what scripts/lint.sh and the Clang presets use
 set -euo pipefail
 
-packages=(g++ cmake ninja-build pkg-config python3
+packages=(g++ cmake ninja-build pkg-config python3 python3-yaml
     doctest-dev librapidcheck-dev libcli11-dev nlohmann-json3-dev)
 if [[ ${1:-} == --checks ]]; then
     packages+=(clang-14 clang-format-14 clang-tidy-14 libclang-rt-14-dev)
+elif [[ ${1:-} == --bench ]]; then
+    packages+=(libbenchmark-dev)
 fi
 
 if ! command -v dpkg-query >/dev/null; then

@@ -1,5 +1,6 @@
 #include "corpus/corpus.hpp"
 
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -7,7 +8,9 @@
 #include <doctest/doctest.h>
 
 #include "model/printing.hpp"
+#include "nurl/core/text.hpp"
 #include "nurl/input/gamess/reader.hpp"
+#include "nurl/input/gamess/validation.hpp"
 #include "reader/kept_text.hpp"
 
 using namespace nurl::input::gamess;
@@ -53,6 +56,22 @@ TEST_CASE("The canonical text of a real deck is read and written again as it is"
         const std::string canonical = read.to_string();
         const std::string expected = read.has_data ? with_blank_line(canonical) : canonical;
         CHECK(written_again(canonical) == expected);
+    }
+}
+
+TEST_CASE("No keyword that GAMESS knows is reported in a real deck") {
+    // Of decks for other programs, which share most of the format.
+    const std::set<std::string> known_to_others{"CONTRL.DFTD", "ZMAT.SCAN",   "ZMAT.DLCTOL",
+                                                "ZMAT.ORTTOL", "ZMAT.IFDMOD", "SURF.REUSE"};
+    for (const Deck& deck : corpus()) {
+        CAPTURE(deck.name);
+        const GamessInput read = parse_string(deck.text).input;
+        for (const validation::Issue& issue : validation::validate(read, {})) {
+            if (issue.severity != validation::Severity::Warning) continue;
+            const std::string place =
+                nurl::core::text::to_upper_copy(issue.section) + '.' + issue.key;
+            CHECK_MESSAGE(known_to_others.contains(place), place);
+        }
     }
 }
 

@@ -108,11 +108,12 @@ TEST_CASE("Every alias of the shipped schema leads to another group of it") {
     }
 }
 
-TEST_CASE("No line of the shipped schema is one that the loader skips") {
+TEST_CASE("Every line of the shipped schema is one that its head explains") {
     const std::vector<std::string_view> group_keys{"parse_mode",      "alias_of",
                                                    "requires_end",    "allow_unknown_entries",
                                                    "allow_raw_lines", "entries"};
-    const std::vector<std::string_view> keyword_keys{"kind", "value_type", "indexed", "repeated"};
+    const std::vector<std::string_view> keyword_keys{"kind",     "value_type", "indexed",
+                                                     "repeated", "choices",    "default"};
     const std::vector<Line> lines = content_lines();
     REQUIRE(lines.size() > 400);
     CHECK(lines.front().text == "sections:");
@@ -135,7 +136,9 @@ TEST_CASE("Names of the shipped schema stand once and in upper case and keywords
     std::string keyword_before;
     for (const Line& line : content_lines()) {
         CAPTURE(line.number);
-        const std::string name = key_of(line);
+        // A `$` in front keeps a name from being a logical word of YAML; it is no part of the name.
+        std::string name = key_of(line);
+        if (name.starts_with('$')) name.erase(0, 1);
         if (line.depth == 2) {
             CHECK(name == to_upper_copy(name));
             CHECK(std::ranges::find(groups, name) == groups.end());
