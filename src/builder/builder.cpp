@@ -67,6 +67,8 @@ InputBuilder& InputBuilder::set_charge_and_multiplicity(int charge, int multipli
     return *this;
 }
 
+// NOLINTBEGIN(performance-unnecessary-value-param): taking texts by value is part of the contract
+
 InputBuilder& InputBuilder::set_scftyp(std::string text) {
     set_control(input_, "SCFTYP", to_upper_copy(text));
     return *this;
@@ -177,6 +179,8 @@ InputBuilder& InputBuilder::add_guess_keyword(std::string key, std::string value
     engaged(input_.guess).extra.push_back(normalised_entry(key, value));
     return *this;
 }
+
+// NOLINTEND(performance-unnecessary-value-param)
 
 InputBuilder& InputBuilder::add_control_flag(std::string key, bool value) {
     return add_control_keyword(std::move(key), format_boolean(value));

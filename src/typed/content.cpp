@@ -34,7 +34,7 @@ SectionContent collect_section_content(const NamedSection& section) {
     return content;
 }
 
-// NOLINTNEXTLINE(performance-unnecessary-value-param): the signature is part of the contract
+// NOLINTBEGIN(performance-unnecessary-value-param): taking lists by value is part of the contract
 NamedSection make_named_section(std::string name, std::vector<KeyValue> entries,
                                 std::vector<KeyValue> extra_entries,
                                 std::vector<std::string> raw_lines) {
@@ -42,6 +42,8 @@ NamedSection make_named_section(std::string name, std::vector<KeyValue> entries,
         entries.push_back(normalised_entry(entry.key, entry.value));
     return {to_upper_copy(trim_view(name)), std::move(entries), std::move(raw_lines)};
 }
+
+// NOLINTEND(performance-unnecessary-value-param)
 
 void set_named_section(GamessInput& input, std::string_view name, NamedSection section) {
     section.name = to_upper_copy(trim_view(name));
