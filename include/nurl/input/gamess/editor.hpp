@@ -19,7 +19,8 @@ namespace nurl::input::gamess {
 /// Three kinds of group are told apart by name. `CONTRL`, `SYSTEM`, `BASIS`, `SCF` and `GUESS` are
 /// structured: a keyword that their record has a member for goes there when its value converts,
 /// every other one into the record's `extra`. `DATA` holds the molecule and has no keywords. All
-/// others are generic and live in `sections` or `extra_sections`.
+/// others are generic and live in `sections` or `extra_sections`. Ten of these can also be read and
+/// replaced as typed records.
 ///
 /// Group names and keywords may be given in any case; blanks, tabs and line ends around them and
 /// one leading `$` of a group name are dropped. Values keep their case except where a record holds

@@ -57,8 +57,7 @@ struct SectionSpec {
     bool operator==(const SectionSpec&) const = default;
 };
 
-/// Asks the resource search for the schema file, without the environment variable being preferred
-/// over an explicit path.
+/// Looks for the schema file on disk.
 ///
 /// @param explicit_path  a path to take before any other when it is a regular file; may be empty
 /// @return the first regular file among `explicit_path`, the value of `NURL_GMS_INP_SCHEMA_YAML`,
