@@ -13,9 +13,9 @@ MAY_INCLUDE = {
     "validation": {"model", "schema", "reader"},
     "writer": {"model"},
     "typed": {"model", "schema", "reader", "writer"},
-    "source": {"model", "schema", "reader"},
+    "source": {"model", "schema", "reader", "validation"},
     "builder": {"model", "writer", "typed"},
-    "editor": {"model", "schema", "reader", "validation", "writer", "typed", "source"},
+    "editor": {"model", "schema", "reader", "validation", "writer", "typed"},
 }
 PUBLIC = "nurl/input/gamess/"
 # Headers of the family that public headers may need; they are installed beside ours.

@@ -69,7 +69,7 @@ Table built_in_sections() {
 /// Lays the lines of a schema file over a table, one call a line.
 class SchemaReader {
 public:
-    explicit SchemaReader(Table& table) : table_(&table) {}
+    SchemaReader(Table& table, Choices* choices) : table_(&table), choices_(choices) {}
 
     void add(std::string_view line) {
         const SchemaLine content = read_line(line);
@@ -134,6 +134,7 @@ private:
         const std::string name = normalize_entry_name(text.substr(0, text.size() - 1));
         EntrySpec& spec = section_->entries[name];
         spec = {};
+        if (choices_ != nullptr) choices_->erase(&spec);
         entry_ = name.empty() ? nullptr : &spec;
     }
 
@@ -147,9 +148,12 @@ private:
             entry_->kind = look_up(entry_kinds, property->value, EntryKind::Unspecified);
         else if (is_word(property->key, "value_type"))
             entry_->value_type = normalize_section_name(property->value);
+        else if (choices_ != nullptr && is_word(property->key, "choices"))
+            (*choices_)[entry_] = property->value;
     }
 
     Table* table_;
+    Choices* choices_;
     bool in_sections_ = false;
     bool in_entries_ = false;
     SectionSpec* section_ = nullptr;
@@ -158,19 +162,19 @@ private:
 
 }  // namespace
 
-Table read_schema(std::istream& stream) {
+Table read_schema(std::istream& stream, Choices* choices) {
     Table table = built_in_sections();
-    SchemaReader reader(table);
+    SchemaReader reader(table, choices);
     std::string line;
     if (std::getline(stream, line)) reader.add(detail::without_byte_order_mark(line));
     while (std::getline(stream, line)) reader.add(line);
     return table;
 }
 
-Table load_schema(const std::string& path) {
+Table load_schema(const std::string& path, Choices* choices) {
     std::ifstream file;
     if (!path.empty()) file.open(path);
-    return read_schema(file);
+    return read_schema(file, choices);
 }
 
 }  // namespace nurl::input::gamess::schema

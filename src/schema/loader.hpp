@@ -17,11 +17,18 @@ namespace nurl::input::gamess::schema {
 /// Groups by normalised name.
 using Table = std::unordered_map<std::string, SectionSpec>;
 
+/// The lists of words that keywords of a table take, as far as the file has them and as it has
+/// them, by the address of the keyword's description. They hold as long as the table is moved and
+/// not copied.
+using Choices = std::unordered_map<const EntrySpec*, std::string>;
+
 /// The 23 built-in groups, with the lines of a stream laid over them. Linear in the length of the
 /// stream; where reading stops early, what was read stands.
-[[nodiscard]] Table read_schema(std::istream& stream);
+///
+/// @param choices  gets the lists of words that keywords of the table take; may be null
+[[nodiscard]] Table read_schema(std::istream& stream, Choices* choices = nullptr);
 
 /// `read_schema` over a file; the built-in groups alone when `path` is empty or cannot be opened.
-[[nodiscard]] Table load_schema(const std::string& path);
+[[nodiscard]] Table load_schema(const std::string& path, Choices* choices = nullptr);
 
 }  // namespace nurl::input::gamess::schema

@@ -45,6 +45,20 @@ std::optional<Property> read_property(std::string_view text) noexcept {
     return Property{text.substr(0, colon), unquote(text.substr(colon + 1))};
 }
 
+std::vector<std::string_view> read_list(std::string_view value) {
+    std::vector<std::string_view> items;
+    if (!value.starts_with('[') || !value.ends_with(']')) return items;
+    std::string_view rest = value.substr(1, value.size() - 2);
+    items.reserve(static_cast<std::size_t>(std::ranges::count(rest, ',')) + 1);
+    while (!rest.empty()) {
+        const std::size_t comma = std::min(rest.find(','), rest.size());
+        const std::string_view item = unquote(rest.substr(0, comma));
+        if (!item.empty()) items.push_back(item);
+        rest.remove_prefix(std::min(comma + 1, rest.size()));
+    }
+    return items;
+}
+
 bool read_flag(std::string_view value, bool otherwise) noexcept {
     constexpr std::array<std::string_view, 4> true_words{"true", "yes", "on", "1"};
     constexpr std::array<std::string_view, 4> false_words{"false", "no", "off", "0"};

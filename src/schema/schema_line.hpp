@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <optional>
 #include <string_view>
+#include <vector>
 
 namespace nurl::input::gamess::schema {
 
@@ -25,6 +26,11 @@ struct Property {
 
 /// Splits a trimmed line at its first colon; nothing when there is none.
 [[nodiscard]] std::optional<Property> read_property(std::string_view text) noexcept;
+
+/// Splits a list `[a, b]` at its commas, each item trimmed and one pair of equal quotes around it
+/// dropped. Empty items are left out; a text without brackets is no list and gives none. The items
+/// point into the text given.
+[[nodiscard]] std::vector<std::string_view> read_list(std::string_view value);
 
 /// Reads a logical word: true, yes, on, 1 or false, no, off, 0 in any case.
 /// @return `otherwise` for every other text

@@ -1,6 +1,7 @@
 #include "schema/table.hpp"
 
 #include "nurl/core/resource.hpp"
+#include "schema/schema_line.hpp"
 
 namespace nurl::input::gamess::schema {
 
@@ -15,6 +16,17 @@ std::string find_schema_path() {
     return resolve_schema_path("");
 }
 
+/// What one pass over the file gives.
+struct Loaded {
+    Choices choices;
+    Table table = load_schema(find_schema_path(), &choices);
+};
+
+const Loaded& loaded() {
+    static const Loaded schema;
+    return schema;
+}
+
 }  // namespace
 
 std::string resolve_schema_path(const std::string& explicit_path) {
@@ -25,9 +37,13 @@ std::string resolve_schema_path(const std::string& explicit_path) {
                                        explicit_path, {}, parent_levels);
 }
 
-const Table& schema_table() {
-    static const Table table = load_schema(find_schema_path());
-    return table;
+const Table& schema_table() { return loaded().table; }
+
+std::vector<std::string_view> choices_of(const EntrySpec* entry) {
+    const Choices& choices = loaded().choices;
+    const auto hit = choices.find(entry);
+    if (hit == choices.end()) return {};
+    return read_list(hit->second);
 }
 
 }  // namespace nurl::input::gamess::schema

@@ -1,0 +1,47 @@
+#include "source/check/findings.hpp"
+
+#include <algorithm>
+#include <tuple>
+#include <utility>
+
+#include "source/line_ends.hpp"
+
+namespace nurl::input::gamess::source::checks {
+
+void Findings::add(Span span, std::string message, std::string hint, std::vector<Edit> fix) {
+    findings_.push_back({std::string{rule_->name},
+                         rule_->severity,
+                         span,
+                         {},
+                         std::move(message),
+                         std::move(hint),
+                         std::move(fix)});
+}
+
+std::vector<Finding> Findings::take() && {
+    std::ranges::stable_sort(findings_, [](const Finding& a, const Finding& b) {
+        return std::tie(a.span.begin, a.rule) < std::tie(b.span.begin, b.rule);
+    });
+    place_all();
+    return std::move(findings_);
+}
+
+// Lines are counted from one finding to the next, many bytes at once, and the begin of a line is
+// looked for no farther back than the finding before.
+void Findings::place_all() noexcept {
+    const std::string_view text = deck_.text();
+    std::size_t seen = 0;
+    std::size_t line = 1;
+    std::size_t begin_of_line = 0;
+    for (Finding& finding : findings_) {
+        const std::size_t place = finding.span.begin;
+        if (const std::size_t lines = count_line_ends(text, {seen, place}); lines > 0) {
+            line += lines;
+            begin_of_line = line_begin(text, place);
+        }
+        seen = place;
+        finding.position = {line, place - begin_of_line + 1};
+    }
+}
+
+}  // namespace nurl::input::gamess::source::checks
