@@ -10,16 +10,19 @@ using nurl::test::Workplace;
 
 namespace {
 
-/// What `format` says about a deck, without file name and weight.
+/// What `format --canonical` says about a deck, without file name and weight, and
+/// without what comparing the decks adds.
 std::vector<std::string> losses(std::string_view deck) {
     const Workplace place;
-    const std::string err = place.run({"format", "-"}, {.input = std::string{deck}}).err;
+    const std::string err =
+        place.run({"format", "--canonical", "--force", "-"}, {.input = std::string{deck}}).err;
     const std::string_view front = "<stdin>: note: ";
     std::vector<std::string> sentences;
     for (std::size_t begin = 0; begin < err.size();) {
         const std::size_t end = err.find('\n', begin);
         REQUIRE(err.compare(begin, front.size(), front) == 0);
         sentences.push_back(err.substr(begin + front.size(), end - begin - front.size()));
+        if (sentences.back().starts_with("GAMESS reads ")) sentences.pop_back();
         begin = end + 1;
     }
     return sentences;

@@ -17,6 +17,15 @@ const std::vector<std::vector<std::string>>& printing_commands() {
         {"check", "--json", "water.inp"},
         {"list", "water.inp"},
         {"get", "water.inp", "CONTRL"},
+        {"get", "water.inp", "CONTRL.SCFTYP"},
+        {"check", "--format", "sarif", "water.inp"},
+        {"explain"},
+        {"diff", "--json", "water.inp", "water.inp"},
+        {"diff", "water.inp", "other.inp"},
+        {"extract", "water.inp", "DATA"},
+        {"splice", "water.inp", "BASIS", "--from", "other.inp"},
+        {"format", "--check", "long.inp"},
+        {"format", "--canonical", "--force", "water.inp"},
         {"set", "water.inp", "SCF.DIRSCF=.T."},
         {"unset", "water.inp", "STATPT"},
         {"format", "water.inp"},
@@ -26,11 +35,17 @@ const std::vector<std::vector<std::string>>& printing_commands() {
     return commands;
 }
 
+void make_decks(const Workplace& place) {
+    place.make("water.inp", water);
+    place.make("other.inp", " $CONTRL SCFTYP=UHF $END\n $BASIS GBASIS=STO $END\n");
+    place.make("long.inp", " $CONTRL SCFTYP=RHF" + std::string(80, ' ') + "MAXIT=30 $END\n");
+}
+
 }  // namespace
 
 TEST_CASE("A full disk behind standard output is trouble for every command") {
     const Workplace place;
-    place.make("water.inp", water);
+    make_decks(place);
     for (const auto& command : printing_commands()) {
         CAPTURE(command[0]);
         CHECK(
@@ -42,7 +57,7 @@ TEST_CASE("A full disk behind standard output is trouble for every command") {
 
 TEST_CASE("A closed standard output is trouble for every command") {
     const Workplace place;
-    place.make("water.inp", water);
+    make_decks(place);
     for (const auto& command : printing_commands()) {
         CAPTURE(command[0]);
         CHECK(place.run(command, {.output_closed = true}) ==
@@ -61,17 +76,48 @@ TEST_CASE("Nothing is coloured when the output is no terminal") {
 
 TEST_CASE("The weight of a message is coloured on a terminal") {
     const Workplace place;
-    CHECK(
-        place.run_on_terminal({"check", "-"}, {.input = " $ODD A=1 $END\n $SCF word $END\n"}).out ==
-        "<stdin>:1: \033[36minfo\033[0m: Section $ODD is not currently described by the GAMESS "
-        "schema\r\n"
-        "<stdin>:2: \033[33mwarning\033[0m: Section $SCF preserved non-keyword text from its "
-        "header as raw text\r\n"
-        "<stdin>:2: \033[31merror\033[0m: Structured section $SCF still contains non-keyword raw "
-        "text\r\n"
-        "1 file: 1 error, 1 warning, 1 note\r\n");
+    CHECK(place
+              .run_on_terminal({"check", "--disable", "missing-molecule", "-"},
+                               {.input = " $ODD A=1 $END\n $SCF NO\tSUCH=1 $END\n"})
+              .out ==
+          "<stdin>:1:2: \033[36minfo\033[0m: Section $ODD is not currently described by the GAMESS "
+          "schema [unknown-group]\r\n"
+          "    1 |  $ODD A=1 $END\r\n"
+          "      |  ^~~~\r\n"
+          "<stdin>:2:7: \033[31merror\033[0m: Structured section $SCF still contains non-keyword "
+          "raw text [stray-text]\r\n"
+          "    2 |  $SCF NO\tSUCH=1 $END\r\n"
+          "      |       ^~\r\n"
+          "<stdin>:2:10: \033[33mwarning\033[0m: Keyword 'SUCH' is not currently described by the "
+          "schema for section $SCF [unknown-keyword]\r\n"
+          "    2 |  $SCF NO\tSUCH=1 $END\r\n"
+          "      |         \t^~~~\r\n"
+          "1 file: 1 error, 1 warning, 1 note\r\n");
     CHECK(place.run_on_terminal({"list", "missing.inp"}).out ==
           "gms-inp: \033[31merror\033[0m: cannot read missing.inp: No such file or directory\r\n");
+}
+
+TEST_CASE("What was fixed is coloured and has no excerpt") {
+    const Workplace place;
+    place.make("a.inp", "$SCF DIRSCF=.T. $END\n");
+    CHECK(
+        place.run_on_terminal({"check", "--fix", "--disable", "missing-molecule", "a.inp"}).out ==
+        "a.inp:1:1: \033[32mfixed\033[0m: GAMESS does not find $SCF: its $ must stand in column 2, "
+        "behind one space [header-column]\r\n"
+        "1 file: no findings, 1 fixed\r\n");
+}
+
+TEST_CASE("Messages and excerpts of a deck bring no control character to a terminal") {
+    const Workplace place;
+    const std::string deck = " $SCF \033[31m=1 X\a=\b $END\n$BASIS \x7F $END\n";
+    for (const std::string command : {"check", "list", "show"}) {
+        CAPTURE(command);
+        const std::string out =
+            place.run_on_terminal({command, "-"}, {.input = deck, .environment = {"NO_COLOR=1"}})
+                .out;
+        CHECK(out.find("SCF") != std::string::npos);
+        CHECK(out.find_first_of("\033\a\b\x7F") == std::string::npos);
+    }
 }
 
 TEST_CASE("NO_COLOR turns colour off, an empty NO_COLOR does not") {
@@ -107,7 +153,7 @@ TEST_CASE("The count is out of the way when a finding is printed") {
     place.make("odd.inp", " $ODD A=1 $END\n");
     std::vector<std::string> many{"check"};
     many.resize(many.size() + 20, "odd.inp");
-    CHECK(place.run_on_terminal(many).out.starts_with("\r[1/20] odd.inp\r\033[Kodd.inp:1: "));
+    CHECK(place.run_on_terminal(many).out.starts_with("\r[1/20] odd.inp\r\033[Kodd.inp:1:2: "));
 }
 
 TEST_CASE("Checking many files does not count when standard error is no terminal") {

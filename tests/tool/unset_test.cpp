@@ -6,21 +6,18 @@ using nurl::test::Outcome;
 using nurl::test::water;
 using nurl::test::Workplace;
 
-TEST_CASE("A keyword is removed") {
+TEST_CASE("A keyword is removed and nothing else") {
     const Workplace place;
     CHECK(place.run({"unset", "-", "contrl.scftyp"},
-                    {.input = " $CONTRL SCFTYP=RHF RUNTYP=ENERGY $END\n"}) ==
-          Outcome{0, " $CONTRL RUNTYP=ENERGY $END\n", ""});
+                    {.input = "note\n $CONTRL SCFTYP=RHF  RUNTYP=ENERGY ! why\n $end tail\n"}) ==
+          Outcome{0, "note\n $CONTRL  RUNTYP=ENERGY ! why\n $end tail\n", ""});
 }
 
-TEST_CASE("A keyword is removed with all its values") {
+TEST_CASE("A keyword is removed with all its values from all copies of its group") {
     const Workplace place;
-    CHECK(place.run({"unset", "-", "PCM.A"}, {.input = " $PCM A=1 B=0 A=2 $END\n"}).out ==
-          " $PCM B=0 $END\n");
-    CHECK(place
-              .run({"unset", "-", "CONTRL.ICHARG"},
-                   {.input = " $CONTRL ICHARG=x RUNTYP=ENERGY ICHARG=1 $END\n"})
-              .out == " $CONTRL RUNTYP=ENERGY $END\n");
+    CHECK(place.run({"unset", "-", "PCM.A"},
+                    {.input = " $PCM A=1 B=0 A=2 $END\n $PCM A=3 C=0 $END\n"}) ==
+          Outcome{0, " $PCM B=0 $END\n $PCM C=0 $END\n", ""});
 }
 
 TEST_CASE("A group is removed with all its copies") {
@@ -57,11 +54,12 @@ TEST_CASE("When something named is not there, all of that is named and nothing i
     CHECK(place.names() == std::vector<std::string>{"water.inp"});
 }
 
-TEST_CASE("A keyword is removed from the first copy of a repeated generic group, with a note") {
+TEST_CASE("A group that GAMESS does not see is not there to be removed") {
     const Workplace place;
-    CHECK(place.run({"unset", "-", "PCM.A"}, {.input = " $PCM A=1 B=0 $END\n $PCM A=2 $END\n"}) ==
-          Outcome{0, " $PCM B=0 $END\n $PCM A=2 $END\n",
-                  "<stdin>: note: $PCM occurs 2 times; only the first one is looked at\n"});
+    CHECK(place.run({"unset", "-", "PCM"}, {.input = "$PCM A=1 $END\n"}) ==
+          Outcome{1, "",
+                  "<stdin>: error: $PCM is not in the deck; GAMESS does not see the one in line 1, "
+                  "whose $ is not in column 2 behind a blank\n"});
 }
 
 TEST_CASE("Naming something twice removes it once") {
@@ -73,8 +71,31 @@ TEST_CASE("Naming something twice removes it once") {
 TEST_CASE("A path of another shape is wrong usage for unset") {
     const Workplace place;
     place.make("water.inp", water);
-    CHECK(place.run({"unset", "water.inp", "CONTRL."}) ==
-          Outcome{2, "", "gms-inp: error: expected GROUP or GROUP.KEY, not 'CONTRL.'\n"});
+    for (const std::string path : {"CONTRL.", ".A", "VEC#1", "."}) {
+        CAPTURE(path);
+        CHECK(place.run({"unset", "water.inp", path}) ==
+              Outcome{2, "", "gms-inp: error: expected GROUP or GROUP.KEY, not '" + path + "'\n"});
+    }
+}
+
+TEST_CASE("Existing files are decks until a word names none") {
+    const Workplace place;
+    place.make("a.inp", " $SCF A=1 $END\n $PCM $END\n");
+    place.make("b.inp", " $SCF B=1 $END\n $PCM $END\n");
+    CHECK(place.run({"unset", "-i", "a.inp", "b.inp", "SCF", "PCM"}) == Outcome{0, "", ""});
+    CHECK(place.content_of("a.inp").empty());
+    CHECK(place.content_of("b.inp").empty());
+}
+
+TEST_CASE("A dollar sign and the last place make a path of what is a file, too") {
+    const Workplace place;
+    place.make("a.inp", " $SCF A=1 $END\n $PCM B=1 $END\n $DFT C=1 $END\n");
+    place.make("SCF", "a file");
+    place.make("$PCM", "a file");
+    std::filesystem::create_directory(place.path() / "DFT");
+    CHECK(place.run({"unset", "a.inp", "SCF"}).out == " $PCM B=1 $END\n $DFT C=1 $END\n");
+    CHECK(place.run({"unset", "a.inp", "$PCM", "SCF"}).out == " $DFT C=1 $END\n");
+    CHECK(place.run({"unset", "a.inp", "DFT", "SCF"}).out == " $PCM B=1 $END\n");
 }
 
 TEST_CASE("Removing everything leaves an empty text") {

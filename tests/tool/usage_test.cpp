@@ -20,11 +20,20 @@ struct HelpText {
 
 const std::vector<HelpText>& help_texts() {
     static const std::vector<HelpText> texts{
-        {"gms-inp.txt", {"--help"}},          {"check.txt", {"check", "--help"}},
-        {"list.txt", {"list", "--help"}},     {"get.txt", {"get", "--help"}},
-        {"set.txt", {"set", "--help"}},       {"unset.txt", {"unset", "--help"}},
-        {"format.txt", {"format", "--help"}}, {"show.txt", {"show", "--help"}},
-        {"schema.txt", {"schema", "--help"}}, {"new.txt", {"new", "--help"}},
+        {"gms-inp.txt", {"--help"}},
+        {"check.txt", {"check", "--help"}},
+        {"list.txt", {"list", "--help"}},
+        {"get.txt", {"get", "--help"}},
+        {"set.txt", {"set", "--help"}},
+        {"unset.txt", {"unset", "--help"}},
+        {"format.txt", {"format", "--help"}},
+        {"show.txt", {"show", "--help"}},
+        {"schema.txt", {"schema", "--help"}},
+        {"new.txt", {"new", "--help"}},
+        {"explain.txt", {"explain", "--help"}},
+        {"diff.txt", {"diff", "--help"}},
+        {"extract.txt", {"extract", "--help"}},
+        {"splice.txt", {"splice", "--help"}},
     };
     return texts;
 }
@@ -64,10 +73,30 @@ TEST_CASE("The version is the project's") {
 TEST_CASE("Wrong usage gives a message on standard error and status 2") {
     const Workplace place;
     const std::vector<std::vector<std::string>> usages{
-        {},          {"nosuch"},           {"--nosuch"},     {"check"},
-        {"list"},    {"list", "a", "b"},   {"get", "a"},     {"set", "a"},
-        {"unset"},   {"check", "--wrong"}, {"format", "-o"}, {"list", "check", "a"},
-        {"--schema"}};
+        {},
+        {"nosuch"},
+        {"--nosuch"},
+        {"check"},
+        {"list"},
+        {"list", "a", "b"},
+        {"get", "a"},
+        {"set", "a"},
+        {"unset"},
+        {"check", "--wrong"},
+        {"format", "-o"},
+        {"list", "check", "a"},
+        {"--schema"},
+        {"get"},
+        {"set"},
+        {"unset", "a"},
+        {"format"},
+        {"diff", "a"},
+        {"diff", "a", "b", "c"},
+        {"explain", "a", "b"},
+        {"extract", "a"},
+        {"splice", "a", "b"},
+        {"check", "--disable"},
+        {"check", "--json", "--format", "text", "a"}};
     for (const std::vector<std::string>& usage : usages) {
         CAPTURE(usage.size());
         const Outcome outcome = place.run(usage);

@@ -74,6 +74,7 @@ inline constexpr std::string_view water =
     "C1\n"
     " O    8.0      0.0000000000      0.0000000000      0.1173000000\n"
     " H    1.0      0.0000000000      0.7572000000     -0.4692000000\n"
+    " H    1.0      0.0000000000     -0.7572000000     -0.4692000000\n"
     " $END\n";
 
 /// A deck that ends with `$DATA`, as it is written after reading: the blank in front of its last

@@ -23,13 +23,16 @@ struct Command {
                                   ///< to run it
 };
 
-/// Reports what reading decks had to tolerate and what the schema does not describe.
+/// Checks decks by rules, and mends what has one safe remedy.
 [[nodiscard]] Runner attach_check(CLI::App& app);
+
+/// Says what a rule of `check` looks for and why.
+[[nodiscard]] Runner attach_explain(CLI::App& app);
 
 /// Lists the groups of a deck.
 [[nodiscard]] Runner attach_list(CLI::App& app);
 
-/// Prints a group or the value of a keyword.
+/// Prints groups or the values of a keyword.
 [[nodiscard]] Runner attach_get(CLI::App& app);
 
 /// Sets keywords.
@@ -38,7 +41,16 @@ struct Command {
 /// Removes keywords and groups.
 [[nodiscard]] Runner attach_unset(CLI::App& app);
 
-/// Writes a deck in canonical layout.
+/// Compares two decks as GAMESS reads them.
+[[nodiscard]] Runner attach_diff(CLI::App& app);
+
+/// Takes groups out of a deck or punched file.
+[[nodiscard]] Runner attach_extract(CLI::App& app);
+
+/// Puts groups of one file into a deck.
+[[nodiscard]] Runner attach_splice(CLI::App& app);
+
+/// Folds long lines, or writes decks in canonical layout.
 [[nodiscard]] Runner attach_format(CLI::App& app);
 
 /// Builds a deck from a molecule.

@@ -5,8 +5,8 @@
 #include <cstdio>
 #include <fstream>
 #include <stdexcept>
+#include <string_view>
 #include <system_error>
-#include <utility>
 
 #include "diagnostics.hpp"
 #include "nurl/input/gamess/reader.hpp"
@@ -15,11 +15,20 @@ namespace gms_inp {
 
 namespace {
 
+namespace source = nurl::input::gamess::source;
+
+/// What `parse_string` says of such a text.
+constexpr std::string_view no_groups = "The input does not contain any GAMESS sections";
+
 using Buffer = std::array<char, 65536>;
 
 [[noreturn]] void throw_read_error(const std::string& name, int error) {
     const std::string reason = std::generic_category().message(error);
     throw std::runtime_error("cannot read " + name + ": " + reason);
+}
+
+[[noreturn]] void throw_no_deck(const std::string& name, std::string_view reason) {
+    throw std::runtime_error(name + ": " + std::string{reason});
 }
 
 std::string read_stdin() {
@@ -52,12 +61,18 @@ std::string read_text(const std::string& path) {
     return path == "-" ? read_stdin() : read_file(path);
 }
 
-Deck read_deck(const std::string& path) {
-    Deck deck;
+TextDeck read_deck(const std::string& path) {
+    TextDeck deck{.name = shown_name(path), .content = source::Deck{read_text(path)}};
+    if (deck.content.sections().empty()) throw_no_deck(deck.name, no_groups);
+    return deck;
+}
+
+ModelDeck read_model(const std::string& path) {
+    ModelDeck deck;
     deck.name = shown_name(path);
     deck.text = read_text(path);
     deck.result = nurl::input::gamess::parse_string(deck.text);
-    if (!deck.result.ok) throw std::runtime_error(deck.name + ": " + deck.result.error);
+    if (!deck.result.ok) throw_no_deck(deck.name, deck.result.error);
     return deck;
 }
 

@@ -5,11 +5,18 @@
 #include <string>
 
 #include "nurl/input/gamess/model.hpp"
+#include "nurl/input/gamess/source/deck.hpp"
 
 namespace gms_inp {
 
-/// A deck as it came.
-struct Deck {
+/// A deck as its text.
+struct TextDeck {
+    std::string name;                           ///< how messages call it
+    nurl::input::gamess::source::Deck content;  ///< its text, indexed; has a group
+};
+
+/// A deck as the document model holds it.
+struct ModelDeck {
     std::string name;                         ///< how messages call it
     std::string text;                         ///< its bytes
     nurl::input::gamess::ParseResult result;  ///< what the reader made of them; always `ok`
@@ -21,10 +28,13 @@ struct Deck {
 /// @throws std::runtime_error when it cannot be read; the message names it
 [[nodiscard]] std::string read_text(const std::string& path);
 
-/// Reads a deck.
+/// Reads a deck to look at its text or to edit it.
 ///
 /// @param path  a file, or `-` for standard input
 /// @throws std::runtime_error when it cannot be read, or holds no group; the message names it
-[[nodiscard]] Deck read_deck(const std::string& path);
+[[nodiscard]] TextDeck read_deck(const std::string& path);
+
+/// Reads a deck into the document model, with the same demands.
+[[nodiscard]] ModelDeck read_model(const std::string& path);
 
 }  // namespace gms_inp

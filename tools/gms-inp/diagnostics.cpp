@@ -19,6 +19,7 @@ constexpr auto weight_texts = std::to_array<WeightText>({
     {"info", "\033[36m"},
     {"warning", "\033[33m"},
     {"error", "\033[31m"},
+    {"fixed", "\033[32m"},
 });
 
 constexpr std::string_view colour_end = "\033[0m";
@@ -35,6 +36,7 @@ std::string format(const Diagnostic& diagnostic, Colour colour) {
     const WeightText& weight = row_of(diagnostic.weight);
     std::string text = escape_controls(diagnostic.place, Keep::Nothing) + ':';
     if (diagnostic.line > 0) text += std::to_string(diagnostic.line) + ':';
+    if (diagnostic.column > 0) text += std::to_string(diagnostic.column) + ':';
     text += ' ';
     if (colour == Colour::On) text += weight.colour;
     text += weight.word;

@@ -11,8 +11,9 @@ namespace gms_inp {
 /// Exit status of the program.
 enum class ExitCode : int {
     Fine = 0,      ///< done, nothing to complain about
-    Findings = 1,  ///< findings, or a group or keyword that is not there
-    Trouble = 2,   ///< wrong usage, or a file that cannot be read or written
+    Findings = 1,  ///< findings, differences, or a group or keyword that is not there
+    Trouble = 2,   ///< wrong usage, a file that cannot be read or written, an edit that cannot be
+                   ///< done
 };
 
 /// An exit status and what it tells the user.
@@ -24,8 +25,8 @@ struct ExitCodeText {
 /// Every exit status with its text, ascending.
 inline constexpr auto exit_code_texts = std::to_array<ExitCodeText>({
     {ExitCode::Fine, "done, nothing to complain about"},
-    {ExitCode::Findings, "findings, or a group or keyword that is not there"},
-    {ExitCode::Trouble, "wrong usage, or a file that cannot be read or written"},
+    {ExitCode::Findings, "findings, differences, or a group or keyword that is not there"},
+    {ExitCode::Trouble, "wrong usage, or a file that cannot be read, edited or written"},
 });
 
 /// The status as the operating system takes it.

@@ -1,6 +1,7 @@
 #include "group_losses.hpp"
 
 #include <algorithm>
+#include <numeric>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -81,12 +82,12 @@ void GroupLosses::add(const DeckLine& line, GroupKind kind) {
     if (kind == GroupKind::Raw) add_raw(line);
 }
 
-void GroupLosses::finish(const gamess::GamessInput& read, const gamess::GamessInput& edited) {
+void GroupLosses::finish(const gamess::GamessInput& input) {
     close_group();
-    std::size_t kept = 0;
-    for (const std::size_t keywords : record_sizes(read)) kept += keywords;
+    const std::vector<std::size_t> sizes = record_sizes(input);
+    const std::size_t kept = std::accumulate(sizes.begin(), sizes.end(), std::size_t{0});
     counts_.add(Loss::EarlierValue, structured_pairs_ - std::min(structured_pairs_, kept));
-    const auto empty = std::ranges::count(record_sizes(edited), std::size_t{0});
+    const auto empty = std::ranges::count(sizes, std::size_t{0});
     counts_.add(Loss::EmptyStructured, static_cast<std::size_t>(empty));
 }
 

@@ -21,10 +21,8 @@ public:
     /// Takes the next line of a group.
     void add(const DeckLine& line, GroupKind kind);
 
-    /// To be called once, behind the last line, with the document as it was read and as it will be
-    /// written.
-    void finish(const nurl::input::gamess::GamessInput& read,
-                const nurl::input::gamess::GamessInput& edited);
+    /// To be called once, behind the last line, with the document that was read.
+    void finish(const nurl::input::gamess::GamessInput& input);
 
 private:
     /// What is known of the group that is being read.

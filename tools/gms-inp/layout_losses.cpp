@@ -53,15 +53,15 @@ private:
 
 }  // namespace
 
-std::vector<std::string> layout_losses(const Deck& deck,
-                                       const nurl::input::gamess::GamessInput& edited,
+std::vector<std::string> layout_losses(std::string_view text,
+                                       const nurl::input::gamess::GamessInput& input,
                                        std::string_view written) {
     LossCounts counts;
     SequenceLosses sequence{counts};
     GroupLosses groups{counts};
-    DataLosses data{deck.result.input, counts};
+    DataLosses data{input, counts};
     GroupKind kind = GroupKind::Keywords;
-    DeckWalk walk{deck.text};
+    DeckWalk walk{text};
     while (const auto line = walk.next()) {
         if (!trim(line->behind_end).empty()) counts.add(Loss::BehindEnd);
         if (line->role == LineRole::Outside) {
@@ -78,8 +78,8 @@ std::vector<std::string> layout_losses(const Deck& deck,
             groups.add(*line, kind);
         }
     }
-    groups.finish(deck.result.input, edited);
-    count_long_lines(deck.text, written, counts);
+    groups.finish(input);
+    count_long_lines(text, written, counts);
     return counts.sentences();
 }
 

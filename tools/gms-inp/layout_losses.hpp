@@ -9,7 +9,6 @@
 #include <string_view>
 #include <vector>
 
-#include "deck_source.hpp"
 #include "nurl/input/gamess/model.hpp"
 
 namespace gms_inp {
@@ -19,14 +18,14 @@ namespace gms_inp {
 /// Not worth a sentence are letter case, blanks that separate, the order of keywords in a
 /// structured group, the kind of line ends, and a `$END` that is added.
 ///
-/// @param deck     the deck as it was read
-/// @param edited   the document to be written
+/// @param text     the deck as it was read
+/// @param input    the document that was read from it and is to be written
 /// @param written  its text
 /// @return         a sentence for each kind of loss, with a count; empty when nothing is lost
 ///
 /// Linear in the length of the texts.
-[[nodiscard]] std::vector<std::string> layout_losses(const Deck& deck,
-                                                     const nurl::input::gamess::GamessInput& edited,
+[[nodiscard]] std::vector<std::string> layout_losses(std::string_view text,
+                                                     const nurl::input::gamess::GamessInput& input,
                                                      std::string_view written);
 
 }  // namespace gms_inp

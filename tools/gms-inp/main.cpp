@@ -19,12 +19,16 @@ namespace gms_inp {
 namespace {
 
 constexpr auto commands = std::to_array<Command>({
-    {"check", "Check decks and report findings", attach_check},
+    {"check", "Check decks, report findings and fix them", attach_check},
+    {"explain", "Explain the rules of check", attach_explain},
     {"list", "List the groups of a deck", attach_list},
-    {"get", "Print a group or the value of a keyword", attach_get},
-    {"set", "Set keywords and write the deck", attach_set},
-    {"unset", "Remove keywords or groups and write the deck", attach_unset},
-    {"format", "Write the deck in canonical layout", attach_format},
+    {"get", "Print groups or values of keywords", attach_get},
+    {"set", "Set keywords", attach_set},
+    {"unset", "Remove keywords or groups", attach_unset},
+    {"diff", "Compare what two decks ask for", attach_diff},
+    {"extract", "Take groups out of a deck or punched file", attach_extract},
+    {"splice", "Put groups of another file into a deck", attach_splice},
+    {"format", "Fold long lines, or lay decks out anew", attach_format},
     {"new", "Build a deck from an XYZ file", attach_new},
     {"show", "Print everything that was read from a deck", attach_show},
     {"schema", "Print what is known about groups and keywords", attach_schema},
@@ -33,6 +37,7 @@ constexpr auto commands = std::to_array<Command>({
 constexpr const char* examples = R"(Examples:
   gms-inp check *.inp
   gms-inp set water.inp CONTRL.RUNTYP=OPTIMIZE -o water_opt.inp
+  gms-inp set -i *.inp SYSTEM.MWORDS=500
   gms-inp set water.inp SCF.DIRSCF=.T. | gms-inp check -
 
 FILE may be - for standard input.

@@ -1,178 +1,174 @@
+#include <algorithm>
 #include <memory>
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
 #include <CLI/CLI.hpp>
-#include <nlohmann/json.hpp>
 
+#include "check_report.hpp"
+#include "check_tally.hpp"
 #include "command.hpp"
+#include "deck_output.hpp"
 #include "deck_source.hpp"
 #include "diagnostics.hpp"
-#include "finding_json.hpp"
-#include "findings.hpp"
-#include "output.hpp"
+#include "fixes.hpp"
 #include "progress.hpp"
-#include "terminal.hpp"
+#include "rule_names.hpp"
 
 namespace gms_inp {
 
 namespace {
 
-using Json = nlohmann::ordered_json;
+namespace source = nurl::input::gamess::source;
 
 constexpr const char* footer =
-    R"(Findings are errors (free text in a structured group), warnings (what reading had
-to tolerate, and keywords that the schema does not describe) and info (groups that
-the schema does not describe). Info alone does not change the exit status: it is
-1 when there is any error or warning, 2 when a file is no readable deck.
-A finding is shown once for each deck, with its first line and the number of places.
+    R"(Findings are errors (GAMESS would stop, or compute something else than what is
+written), warnings, and info (worth a look). Info alone does not change the exit
+status: it is 1 when there is any error or warning, 2 when a file is no readable
+deck. 'gms-inp explain' lists the rules that find them. --fix mends what has one safe
+remedy, in the file itself, and reports what remains.
+
+The JSON holds a list "files" of objects with file, error, findings and fixed, and an
+object "summary" of counts. A finding has rule, severity, line, column, end_line,
+end_column (behind its last byte), offset, length, message, hint and fixable; what
+--fix mended has rule, line, column and message. Lines and columns count from 1,
+columns and lengths in bytes.
 
 Examples:
   gms-inp check water.inp
   gms-inp check --quiet decks/*.inp
-  gms-inp check --no-unknown-sections --json water.inp
+  gms-inp check --fix *.inp
+  gms-inp check --disable unknown-group,unknown-keyword --json water.inp
+  gms-inp check --format sarif *.inp > findings.sarif
   cat water.inp | gms-inp check -)";
 
 struct Options {
     std::vector<std::string> files;
-    nurl::input::gamess::validation::Options validation;
-    bool quiet = false;
+    std::vector<std::string> disabled;
+    std::string format = "text";
     bool json = false;
+    bool quiet = false;
+    bool fix = false;
 };
 
-/// What has been found in all files so far.
-struct Tally {
-    std::size_t files = 0;
-    std::size_t errors = 0;
-    std::size_t warnings = 0;
-    std::size_t notes = 0;
-    std::size_t unreadable = 0;
-};
-
-void count(const std::vector<Finding>& findings, Tally& tally) {
-    for (const Finding& finding : findings) {
-        if (finding.weight == Weight::Error) ++tally.errors;
-        if (finding.weight == Weight::Warning) ++tally.warnings;
-        if (finding.weight == Weight::Info) ++tally.notes;
-    }
-}
-
-std::string counted(std::size_t number, const std::string& word) {
-    return std::to_string(number) + ' ' + word + (number == 1 ? "" : "s");
-}
-
-std::string summary_line(const Tally& tally) {
-    std::string line = counted(tally.files, "file");
-    std::string separator = ": ";
-    const auto append = [&](const std::string& part) {
-        line += std::exchange(separator, ", ") + part;
-    };
-    if (tally.errors > 0) append(counted(tally.errors, "error"));
-    if (tally.warnings > 0) append(counted(tally.warnings, "warning"));
-    if (tally.notes > 0) append(counted(tally.notes, "note"));
-    if (tally.errors + tally.warnings + tally.notes == 0) append("no findings");
-    if (tally.unreadable > 0) append(std::to_string(tally.unreadable) + " unreadable");
-    return line + '\n';
-}
-
-Json summary_json(const Tally& tally) {
-    return {{"files", tally.files},
-            {"errors", tally.errors},
-            {"warnings", tally.warnings},
-            {"notes", tally.notes},
-            {"unreadable", tally.unreadable}};
-}
-
-void print_findings(const std::string& name, const std::vector<Finding>& findings) {
-    const Colour colour = wants_colour(stdout) ? Colour::On : Colour::Off;
-    for (const Finding& finding : findings) {
-        std::string message = finding.message;
-        if (finding.count > 1) message += " (" + std::to_string(finding.count) + " places)";
-        print(format(
-            {.place = name, .line = finding.line, .weight = finding.weight, .message = message},
-            colour));
-    }
-}
-
-/// One run over all files.
+/// One run over all decks.
 class Check {
 public:
-    explicit Check(const Options& options) : options_{options}, progress_{options.files.size()} {}
+    Check(const Options& options, ReportFormat format)
+        : options_{options}, report_{format, options.quiet}, progress_{options.files.size()} {
+        for (const std::string& name : options.disabled)
+            rules_.disabled.emplace_back(rule_named(name).name);
+    }
 
     ExitCode run() {
         for (const std::string& file : options_.files) check_file(file);
         progress_.clear();
-        if (options_.json) {
-            print_json({{"files", reports_}, {"summary", summary_json(tally_)}});
-        } else {
-            print(summary_line(tally_));
-        }
-        if (tally_.unreadable > 0) return ExitCode::Trouble;
-        return tally_.errors + tally_.warnings > 0 ? ExitCode::Findings : ExitCode::Fine;
+        report_.finish(tally_);
+        return tally_.exit_code();
     }
 
 private:
     void check_file(const std::string& file) {
         ++tally_.files;
         progress_.step(shown_name(file));
-        const std::optional<Deck> deck = read(file);
+        std::optional<source::Deck> deck = read(file);
         if (!deck) return;
-        const std::vector<Finding> findings = collect_findings(*deck, options_.validation);
-        count(findings, tally_);
-        if (options_.json) {
-            reports_.push_back(
-                {{"file", deck->name}, {"error", nullptr}, {"findings", json_of(findings)}});
-        } else if (!options_.quiet && !findings.empty()) {
-            progress_.clear();
-            print_findings(deck->name, findings);
+        std::vector<source::Finding> fixed;
+        std::vector<source::Finding> remains = source::check(*deck, rules_);
+        if (options_.fix && has_fix(remains)) {
+            FixedDeck mended = fix_deck(*deck, rules_);
+            if (write(file, mended.deck)) {
+                deck = std::move(mended.deck);
+                fixed = std::move(mended.fixed);
+                remains = std::move(mended.remains);
+            }
         }
+        tally_.fixed += fixed.size();
+        tally_.add(remains);
+        if (!fixed.empty() || !remains.empty()) progress_.clear();
+        report_.add({.path = file, .deck = *deck, .fixed = fixed, .remains = remains});
     }
 
-    std::optional<Deck> read(const std::string& file) {
+    static bool has_fix(const std::vector<source::Finding>& findings) {
+        return std::ranges::any_of(
+            findings, [](const source::Finding& finding) { return !finding.fix.empty(); });
+    }
+
+    std::optional<source::Deck> read(const std::string& file) {
         try {
-            return read_deck(file);
+            return read_deck(file).content;
         } catch (const std::runtime_error& error) {
             ++tally_.unreadable;
-            progress_.clear();
-            complain({.place = "gms-inp", .weight = Weight::Error, .message = error.what()});
-            reports_.push_back(
-                {{"file", shown_name(file)}, {"error", error.what()}, {"findings", Json::array()}});
+            tell(error.what());
+            report_.add_failure(file, error.what());
             return std::nullopt;
         }
     }
 
+    bool write(const std::string& file, const source::Deck& deck) {
+        try {
+            write_file(file, deck.text());
+            return true;
+        } catch (const std::runtime_error& error) {
+            ++tally_.unwritten;
+            tell(error.what());
+            return false;
+        }
+    }
+
+    void tell(std::string_view message) {
+        progress_.clear();
+        complain({.place = "gms-inp", .weight = Weight::Error, .message = message});
+    }
+
     const Options& options_;
+    CheckReport report_;
     Progress progress_;
-    Tally tally_;
-    Json reports_ = Json::array();
+    CheckTally tally_;
+    source::CheckOptions rules_;
 };
 
-/// Adds an option that turns `target` off.
-void add_switch_off(CLI::App& app, const std::string& name, bool& target,
-                    const std::string& description) {
+ExitCode run(const Options& options) {
+    const ReportFormat format = options.json ? ReportFormat::Json : format_named(options.format);
+    if (options.quiet && format != ReportFormat::Text)
+        throw std::runtime_error("--quiet goes with the format text only");
+    const bool reads_stdin = std::ranges::find(options.files, "-") != options.files.end();
+    if (options.fix && reads_stdin)
+        throw std::runtime_error("standard input cannot be fixed in place");
+    return Check{options, format}.run();
+}
+
+/// Adds an option that stands for `--disable` and the name of a rule.
+void add_switch_off(CLI::App& app, const std::string& name, std::vector<std::string>& disabled,
+                    const std::string& rule) {
     app.add_flag_callback(
-        name, [&target] { target = false; }, description);
+        name, [&disabled, rule] { disabled.push_back(rule); }, "The same as --disable " + rule);
 }
 
 }  // namespace
 
 Runner attach_check(CLI::App& app) {
     const auto options = std::make_shared<Options>();
-    nurl::input::gamess::validation::Options& validation = options->validation;
     app.add_option("FILE", options->files, "Decks, or - for standard input")->required();
-    add_switch_off(app, "--no-unknown-sections", validation.report_unknown_sections,
-                   "Do not report groups that the schema does not describe");
-    add_switch_off(app, "--no-unknown-keywords", validation.report_unknown_keywords,
-                   "Do not report keywords that the schema does not describe");
-    add_switch_off(app, "--no-raw-text", validation.report_raw_text_in_structured,
-                   "Do not report free text in structured groups");
-    CLI::Option* const quiet = app.add_flag("-q,--quiet", options->quiet, "Print the summary only");
-    app.add_flag("--json", options->json, "Print JSON")->excludes(quiet);
+    app.add_option("--disable", options->disabled, "Rules that do not run, may be repeated")
+        ->type_name("RULE[,RULE]")
+        ->delimiter(',')
+        ->allow_extra_args(false);
+    add_switch_off(app, "--no-unknown-sections", options->disabled, "unknown-group");
+    add_switch_off(app, "--no-unknown-keywords", options->disabled, "unknown-keyword");
+    add_switch_off(app, "--no-raw-text", options->disabled, "stray-text");
+    app.add_flag("--fix", options->fix, "Mend what has one safe remedy, in the file itself");
+    app.add_flag("-q,--quiet", options->quiet, "Print the summary only");
+    CLI::Option* const format =
+        app.add_option("--format", options->format, "How to print: text, json or sarif")
+            ->type_name("FORMAT");
+    app.add_flag("--json", options->json, "The same as --format json")->excludes(format);
     app.footer(footer);
-    return [options] { return Check{*options}.run(); };
+    return [options] { return run(*options); };
 }
 
 }  // namespace gms_inp

@@ -43,7 +43,7 @@ struct GroupRow {
 };
 
 /// The groups in the order of the text. The document holds all of them but `$DATA` in that order.
-std::vector<GroupRow> rows_of(const Deck& deck) {
+std::vector<GroupRow> rows_of(const ModelDeck& deck) {
     const nurl::input::gamess::GamessInput& input = deck.result.input;
     std::vector<GroupRow> rows;
     std::size_t next = 0;
@@ -96,7 +96,7 @@ Json json_of(const std::vector<GroupRow>& rows) {
 }
 
 ExitCode run(const Options& options) {
-    const std::vector<GroupRow> rows = rows_of(read_deck(options.file));
+    const std::vector<GroupRow> rows = rows_of(read_model(options.file));
     if (options.json) {
         print_json(json_of(rows));
     } else {

@@ -6,12 +6,13 @@
 #include <CLI/CLI.hpp>
 
 #include "command.hpp"
+#include "deck_output.hpp"
 #include "deck_source.hpp"
 #include "diagnostics.hpp"
-#include "edited_deck.hpp"
 #include "keyword_path.hpp"
 #include "nurl/input/gamess/builder.hpp"
-#include "nurl/input/gamess/editor.hpp"
+#include "nurl/input/gamess/reader.hpp"
+#include "nurl/input/gamess/source/deck.hpp"
 #include "xyz.hpp"
 
 namespace gms_inp {
@@ -31,7 +32,8 @@ Examples:
   gms-inp new --xyz - --runtyp OPTIMIZE --set STATPT.NSTEP=100 < start.xyz)";
 
 struct Options {
-    EditTarget target;
+    std::string xyz;
+    std::string output = "-";
     int charge = 0;
     int multiplicity = 1;
     std::string scftyp = "RHF";
@@ -55,11 +57,15 @@ gamess::InputBuilder build(const Options& options, const XyzMolecule& molecule) 
 }
 
 /// Says what is odd about a deck that can be written all the same.
-void warn_of_oddities(const std::string& name, const gamess::GamessInput& input) {
+///
+/// @param atoms  as they were built
+/// @param input  what is read from the deck
+void warn_of_oddities(const std::string& name, const std::vector<gamess::AtomRecord>& atoms,
+                      const gamess::GamessInput& input) {
     const auto warn = [&name](const std::string& message) {
         complain({.place = name, .weight = Weight::Warning, .message = message});
     };
-    for (const gamess::AtomRecord& atom : input.atoms)
+    for (const gamess::AtomRecord& atom : atoms)
         if (!atom.nuclear_charge)
             warn("'" + atom.symbol + "' is no element; it is written with charge 0.0");
     if (!input.basis) warn("no basis set: give --basis or --set BASIS.GBASIS=...");
@@ -71,9 +77,9 @@ ExitCode run(const Options& options) {
     std::vector<Assignment> assignments;
     for (const std::string& text : options.assignments)
         assignments.push_back(parse_assignment(text));
-    refuse_to_overwrite_input(options.target);
-    const std::string name = shown_name(options.target.file);
-    const XyzMolecule molecule = read_xyz(read_text(options.target.file));
+    refuse_same_file(options.xyz, options.output);
+    const std::string name = shown_name(options.xyz);
+    const XyzMolecule molecule = read_xyz(read_text(options.xyz));
     if (molecule.faulty_line > 0) {
         complain({.place = name,
                   .line = molecule.faulty_line,
@@ -81,13 +87,11 @@ ExitCode run(const Options& options) {
                   .message = molecule.fault});
         return ExitCode::Trouble;
     }
-    gamess::InputEditor editor{build(options, molecule).input()};
-    // Gives the groups that are there a place in front of those that --set adds.
-    for (const std::string& group : editor.section_names()) editor.ensure_section(group);
-    for (const auto& [path, value] : assignments) editor.set_keyword(path.group, path.key, value);
-    check_that_values_read_back(assignments, editor.input());
-    warn_of_oddities(name, editor.input());
-    write_deck(editor.input(), options.target.output);
+    const gamess::GamessInput built = build(options, molecule).input();
+    gamess::source::Deck deck{built.to_string()};
+    for (const auto& [path, value] : assignments) deck.set_keyword(path.group, path.key, value);
+    warn_of_oddities(name, built.atoms, gamess::parse_string(deck.text()).input);
+    write_output(options.output, deck.text());
     return ExitCode::Fine;
 }
 
@@ -95,7 +99,7 @@ ExitCode run(const Options& options) {
 
 Runner attach_new(CLI::App& app) {
     const auto options = std::make_shared<Options>();
-    app.add_option("--xyz", options->target.file, "The molecule, or - for standard input")
+    app.add_option("--xyz", options->xyz, "The molecule, or - for standard input")
         ->required()
         ->type_name("FILE");
     app.add_option("--charge", options->charge, "Charge of the molecule")->type_name("N");
@@ -110,7 +114,7 @@ Runner attach_new(CLI::App& app) {
     app.add_option("--set", options->assignments, "Further keyword, may be repeated")
         ->type_name("GROUP.KEY=VALUE")
         ->allow_extra_args(false);
-    app.add_option("-o,--output", options->target.output, "File to write, or - for standard output")
+    app.add_option("-o,--output", options->output, "File to write, or - for standard output")
         ->type_name("FILE");
     app.footer(footer);
     return [options] { return run(*options); };

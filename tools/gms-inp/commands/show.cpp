@@ -40,7 +40,7 @@ struct Options {
 };
 
 ExitCode run(const Options& options) {
-    const gamess::GamessInput input = read_deck(options.file).result.input;
+    const gamess::GamessInput input = read_model(options.file).result.input;
     std::optional<Json> shown;
     if (options.typed.empty())
         shown = json_of(input);

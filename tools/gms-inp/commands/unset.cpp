@@ -1,90 +1,86 @@
 #include <memory>
-#include <set>
 #include <string>
 #include <vector>
 
 #include <CLI/CLI.hpp>
 
 #include "command.hpp"
+#include "deck_edits.hpp"
 #include "deck_source.hpp"
 #include "diagnostics.hpp"
-#include "edited_deck.hpp"
+#include "file_arguments.hpp"
+#include "group_copies.hpp"
 #include "keyword_path.hpp"
-#include "nurl/input/gamess/editor.hpp"
 
 namespace gms_inp {
 
 namespace {
 
-namespace gamess = nurl::input::gamess;
+namespace source = nurl::input::gamess::source;
 
 constexpr const char* footer =
-    R"(A group goes with all its copies, a keyword with all its values. When anything named
-is not in the deck, nothing is written and the exit status is 1. The deck is written
-in canonical layout; what that leaves out or moves is told on standard error. The
-deck itself is never overwritten.
+    R"(A group goes with all its copies, a keyword with all its values; every other byte
+stays. Existing files behind the first are decks, too; the first word that names none
+begins the paths. A path may begin with $, which a file of that name then does not
+hide. When anything named is not in a deck, that deck is not written and the exit
+status is 1. One deck goes to standard output or to the file that -o names; with -i
+each deck is replaced by its new text, as a whole or not at all.
 
 Examples:
   gms-inp unset water.inp CONTRL.MAXIT -o shorter.inp
-  gms-inp unset water.inp GUESS VEC > fresh.inp)";
+  gms-inp unset water.inp GUESS VEC > fresh.inp
+  gms-inp unset -i *.inp '$VEC' GUESS.NORB)";
 
 struct Options {
     EditTarget target;
-    std::vector<std::string> paths;
+    std::vector<std::string> words;
 };
 
-bool is_present(const gamess::InputEditor& editor, const KeywordPath& path) {
-    return path.key.empty() ? editor.has_section(path.group)
-                            : editor.has_keyword(path.group, path.key);
+bool is_present(const source::Deck& deck, const KeywordPath& path) {
+    return path.key.empty() ? deck.location(path.group).has_value()
+                            : deck.location(path.group, path.key).has_value();
 }
 
 /// Names everything that is not there. @return whether all is there
-bool complain_of_missing(const Deck& deck, const gamess::InputEditor& editor,
-                         const std::vector<KeywordPath>& paths) {
+bool complain_of_missing(const TextDeck& deck, const std::vector<KeywordPath>& paths) {
     bool complete = true;
     for (const KeywordPath& path : paths) {
-        if (is_present(editor, path)) continue;
-        const std::string message = text_of(path) + " is not in the deck";
+        if (is_present(deck.content, path)) continue;
+        const std::string message = absence_of(deck.content, path);
         complain({.place = deck.name, .weight = Weight::Error, .message = message});
         complete = false;
     }
     return complete;
 }
 
-void remove(const KeywordPath& path, gamess::InputEditor& editor) {
-    if (path.key.empty()) {
-        editor.remove_section(path.group);
-    } else {
-        // Values that the record could not hold survive the first removal.
-        while (editor.remove_keyword(path.group, path.key)) continue;
+ExitCode remove_all(TextDeck& deck, const std::vector<KeywordPath>& paths) {
+    if (!complain_of_missing(deck, paths)) return ExitCode::Findings;
+    for (const KeywordPath& path : paths) {
+        if (path.key.empty())
+            deck.content.remove_section(path.group);
+        else
+            deck.content.remove_keyword(path.group, path.key);
     }
+    return ExitCode::Fine;
 }
 
 ExitCode run(const Options& options) {
+    const SplitArguments arguments = split_paths(options.words);
     std::vector<KeywordPath> paths;
-    for (const std::string& text : options.paths) paths.push_back(parse_path(text));
-    refuse_to_overwrite_input(options.target);
-    const Deck deck = read_deck(options.target.file);
-    gamess::InputEditor editor{deck.result.input};
-    if (!complain_of_missing(deck, editor, paths)) return ExitCode::Findings;
-    std::set<std::string> groups;
-    for (const KeywordPath& path : paths) {
-        if (!path.key.empty()) groups.insert(path.group);
-        remove(path, editor);
-    }
-    for (const std::string& group : groups) warn_of_copies(deck, group);
-    write_edited(deck, editor.input(), options.target);
-    return ExitCode::Fine;
+    for (const std::string& text : arguments.rest) paths.push_back(parse_path(text));
+    EditTarget target = options.target;
+    target.files = arguments.files;
+    return edit_decks(target, [&paths](TextDeck& deck) { return remove_all(deck, paths); });
 }
 
 }  // namespace
 
 Runner attach_unset(CLI::App& app) {
     const auto options = std::make_shared<Options>();
-    app.add_option("FILE", options->target.file, "The deck, or - for standard input")->required();
-    app.add_option("PATH", options->paths, "GROUP or GROUP.KEY, in any case")->required();
-    app.add_option("-o,--output", options->target.output, "File to write, or - for standard output")
-        ->type_name("FILE");
+    add_words(app, options->words,
+              {{"FILE...", "Decks, or - for standard input"},
+               {"PATH...", "GROUP or GROUP.KEY, in any case"}});
+    add_target_options(app, options->target);
     app.footer(footer);
     return [options] { return run(*options); };
 }
