@@ -24,7 +24,7 @@ std::vector<std::string> keyword_groups(const Source& deck) {
             !deck.find_all(group.name).back().terminator.empty())
             names.push_back(group.name);
     std::ranges::sort(names);
-    names.erase(std::ranges::unique(names).begin(), names.end());
+    names.erase(std::unique(names.begin(), names.end()), names.end());
     return names;
 }
 

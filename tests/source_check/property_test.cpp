@@ -99,13 +99,15 @@ std::map<std::string, std::vector<std::string>> all_keywords(const Deck& deck) {
 
 }  // namespace
 
-TEST_CASE("Findings are sorted, lie in the text and are told in one line") {
+TEST_CASE("Findings are sorted, each once, lie in the text and are told in one line") {
     CHECK(rc::check([] {
         const Deck deck{*any_text()};
         const std::vector<Finding> findings = check(deck);
-        RC_ASSERT(std::ranges::is_sorted(findings, {}, [](const Finding& finding) {
+        const auto place = [](const Finding& finding) {
             return std::tie(finding.span.begin, finding.rule);
-        }));
+        };
+        RC_ASSERT(std::ranges::is_sorted(findings, {}, place));
+        RC_ASSERT(std::ranges::adjacent_find(findings, {}, place) == findings.end());
         for (const Finding& finding : findings) {
             const Rule* const rule = find_rule(finding.rule);
             RC_ASSERT(rule != nullptr);

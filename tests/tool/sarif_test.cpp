@@ -48,7 +48,8 @@ TEST_CASE("The log names version, schema and tool with all rules") {
 TEST_CASE("A rule has a level that SARIF knows") {
     const Workplace place;
     place.make("a.inp", " $CONTRL SCFTYP=RHF $END\n");
-    for (const json& rule : log_of(check(place, "a.inp"))["runs"][0]["tool"]["driver"]["rules"]) {
+    const json log = log_of(check(place, "a.inp"));
+    for (const json& rule : log["runs"][0]["tool"]["driver"]["rules"]) {
         const json& level = rule["defaultConfiguration"]["level"];
         CAPTURE(rule["id"].get<std::string>());
         if (rule["id"] == "unknown-group") CHECK(level == "note");

@@ -37,6 +37,14 @@ Atom read_atom(const Deck& deck, const Item& card, CoordinateStyle style) {
     return atom;
 }
 
+/// The last use of a keyword in one copy of a group.
+std::optional<KeywordUse> last_in(const KeywordGroup& group, std::string_view key) {
+    for (std::size_t i = group.items.size(); i > 0; --i)
+        if (is_key(group.items[i - 1], key))
+            return KeywordUse{&group, &group.items[i - 1], group.entries[i - 1]};
+    return std::nullopt;
+}
+
 }  // namespace
 
 Context::Context(const Deck& deck) : deck_(deck) {
@@ -91,12 +99,10 @@ bool Context::has_hidden_group(std::string_view name) const noexcept {
 }
 
 std::optional<KeywordUse> Context::last(std::string_view section, std::string_view key) const {
-    for (auto it = groups_.rbegin(); it != groups_.rend(); ++it) {
-        const KeywordGroup& group = *it;
+    for (std::size_t i = groups_.size(); i > 0; --i) {
+        const KeywordGroup& group = groups_[i - 1];
         if (group.group->name != section) continue;
-        for (std::size_t i = group.items.size(); i > 0; --i)
-            if (is_key(group.items[i - 1], key))
-                return KeywordUse{&group, &group.items[i - 1], group.entries[i - 1]};
+        if (const auto use = last_in(group, key)) return use;
     }
     return std::nullopt;
 }

@@ -162,6 +162,28 @@ private:
     std::unordered_map<const schema::EntrySpec*, KnownChoices> choices_;
 };
 
+void check_numbers(const Deck& deck, const KeywordUse& use, Findings& findings) {
+    const ValueType* const type = type_of(use);
+    if (type == nullptr || !type->is_number) return;
+    for (const Span span : taken_words(use)) {
+        const std::string_view word = deck.text(span);
+        if (!is_broken_number(word)) continue;
+        findings.add(span,
+                     quoted(word) + " for " + shown_keyword(use) + " cannot be read as a number");
+    }
+}
+
+void check_numbers(const Deck& deck, const Atom& atom, Findings& findings) {
+    constexpr std::size_t behind_numbers = 5;  // a charge and three coordinates behind the name
+    const std::vector<Span>& words = atom.card->words;
+    for (std::size_t i = 1; i < std::min(words.size(), behind_numbers); ++i) {
+        const std::string_view word = deck.text(words[i]);
+        if (real_of(word) || is_fraction(word)) continue;
+        findings.add(words[i], quoted(word) + " for atom " + quoted(atom.name) +
+                                   " cannot be read as a number");
+    }
+}
+
 }  // namespace
 
 void find_value_type(const Context& context, Findings& findings) {
@@ -185,25 +207,10 @@ void find_value_type(const Context& context, Findings& findings) {
 }
 
 void find_unreadable_number(const Context& context, Findings& findings) {
-    const Deck& deck = context.deck();
-    for_each_keyword(context, [&](const KeywordUse& use) {
-        const ValueType* const type = type_of(use);
-        if (type == nullptr || !type->is_number) return;
-        for (const Span span : taken_words(use))
-            if (const std::string_view word = deck.text(span); is_broken_number(word))
-                findings.add(span, quoted(word) + " for " + shown_keyword(use) +
-                                       " cannot be read as a number");
-    });
+    for_each_keyword(context,
+                     [&](const KeywordUse& use) { check_numbers(context.deck(), use, findings); });
     if (context.style() != CoordinateStyle::Cartesian) return;
-    constexpr std::size_t behind_numbers = 5;  // a charge and three coordinates behind the name
-    for (const Atom& atom : context.atoms()) {
-        const std::vector<Span>& words = atom.card->words;
-        for (std::size_t i = 1; i < std::min(words.size(), behind_numbers); ++i)
-            if (const std::string_view word = deck.text(words[i]);
-                !real_of(word) && !is_fraction(word))
-                findings.add(words[i], quoted(word) + " for atom " + quoted(atom.name) +
-                                           " cannot be read as a number");
-    }
+    for (const Atom& atom : context.atoms()) check_numbers(context.deck(), atom, findings);
 }
 
 void find_value_choice(const Context& context, Findings& findings) {

@@ -15,9 +15,10 @@ void find_beyond_column_80(const Context& context, Findings& findings);
 /// The rule of this room.
 inline constexpr auto width_rules = std::to_array<RuleRow>({
     {{"beyond-column-80", validation::Severity::Warning, "text beyond column 80",
-      "GAMESS reads 80 columns of a line. What stands beyond them is lost without a message: a "
-      "keyword keeps its default, a list loses its end, a group its $END. Comments and titles do "
-      "no harm there. Begin a new line, which needs no sign in a group with keywords."},
+      "GAMESS reads lines of 80 columns. What stands beyond them is lost without a message, as far "
+      "as is known: a keyword keeps its default, a list loses its end, a group its $END. Comments "
+      "and "
+      "titles do no harm there. Begin a new line, which needs no sign in a group with keywords."},
      find_beyond_column_80},
 });
 
