@@ -20,7 +20,7 @@ struct Rule {
         validation::Severity::Info;  ///< of its findings. `Error` means
                                      ///< that GAMESS would stop, or compute something else than
                                      ///< what is written; `Info` is worth a look and no more
-    std::string_view summary;      ///< one line, lower case, without a full stop
+    std::string_view summary;        ///< one line, lower case, without a full stop
     std::string_view explanation;  ///< one paragraph: what GAMESS does, why it matters, what to do
 };
 
