@@ -9,7 +9,7 @@ log=$(mktemp)
 trap 'rm -f "$log"' EXIT
 {
     cmake --preset release -DNURL_GMS_INP_BUILD_BENCHMARKS=ON &&
-        cmake --build --preset release --parallel "$(nproc)" --target bench_schema
+        cmake --build --preset release --parallel "$(nproc)" --target bench_gms_inp
 } >"$log" 2>&1 || { cat "$log" >&2; exit 1; }
-build/release/bench/bench_schema --benchmark_repetitions=9 --benchmark_format=json \
+build/release/bench/bench_gms_inp --benchmark_repetitions=9 --benchmark_format=json \
     --benchmark_enable_random_interleaving=true 2>"$log" | python3 scripts/bench_ratios.py

@@ -20,6 +20,9 @@ TEST_CASE("A charge that is not that of the element a name stands for is found")
          {"another element",
           molecule("N1 6.0 0 0 0\n"),
           {"5:4 Atom 'N1' has the charge 6.0, the element N has 7"}},
+         {"any digits",
+          molecule("N90 6 0 0 0\nO09 8 0 0 1\n"),
+          {"5:5 Atom 'N90' has the charge 6, the element N has 7"}},
          {"the first letter alone", molecule("CA 6.0 0 0 0\nHG 1.0 0 0 1\n"), {}},
          {"neither letter",
           molecule("CA 7.0 0 0 0\n"),
@@ -41,7 +44,10 @@ TEST_CASE("A charge that is not that of the element a name stands for is found")
           molecule("N 6 1.0 2.0\n"),
           {"5:3 Atom 'N' has the charge 6, the element N has 7"}},
          {"a fragment run", molecule("H 8\n", " $FMO NFRAG=1 $END\n"), {}},
-         {"a Z-matrix", molecule("O\nH 1 0.9\n", " $CONTRL COORD=ZMT $END\n"), {}}});
+         {"a Z-matrix", molecule("O\nN 1 1.4\n", " $CONTRL COORD=ZMT $END\n"), {}},
+         {"internal coordinates with charges",
+          molecule("N 6.0 LC 1.0\n", " $CONTRL COORD=HINT $END\n"),
+          {"6:3 Atom 'N' has the charge 6.0, the element N has 7"}}});
 }
 
 TEST_CASE("Atoms that nearly coincide are found") {

@@ -33,6 +33,15 @@ TEST_CASE("A number of electrons that does not go with the multiplicity is found
          {"the values that count",
           " $CONTRL MULT=2 $END\n $CONTRL MULT=1 $END\n" + basis + water,
           {}},
+         {"values of other groups",
+          " $CONTRL MULT=1 $END\n $TDDFT MULT=2 $END\n" + basis + water,
+          {}},
+         {"a multiplicity out of range", " $CONTRL MULT=4000000000 $END\n" + basis + water, {}},
+         {"no electrons",
+          " $CONTRL ICHARG=1 MULT=2 $END\n" + basis + hydrogen,
+          {"1:19 0 electrons do not go with MULT=2: the charges of the atoms are 1 in all, ICHARG "
+           "is "
+           "1"}},
          {"no $CONTRL", basis + hydrogen, {"2:2 " + one}},
          {"symmetry", basis + " $DATA\nt\nCNV 2\n\nO 8.0 0 0 0\nH 1.0 0 0 1\n $END\n", {}},
          {"symmetry with all atoms",
@@ -67,7 +76,7 @@ TEST_CASE("A number of electrons that does not go with the multiplicity is found
           " $CONTRL RUNTYP=COMP $END\n $DATA\nt\nC1\nH 1.0 0 0 0\n"
           "O 8.0 0 0 1\n $END\n",
           {}},
-         {"no atoms", basis + " $DATA\nt\nC1\n $END\n", {}},
+         {"no atoms", " $CONTRL MULT=2 $END\n" + basis + " $DATA\nt\nC1\n $END\n", {}},
          {"no molecule", basis, {}}});
 }
 

@@ -112,6 +112,7 @@ TEST_CASE("A $END behind an open ! is found") {
     const std::string finding = "$SCF goes on, its $END stands behind a ! and does not count";
     check_rows("hidden-end",
                {{"in the comment of a keyword", " $SCF A=1 ! x $END\n", {"1:15 " + finding}},
+                {"behind another $", " $SCF A=1 ! $$END\n", {"1:14 " + finding}},
                 {"in small letters", " $SCF A=1 !$end\n", {"1:12 " + finding}},
                 {"behind a closed comment", " $SCF A=1 ! x ! $END\n", {}},
                 {"with one that counts below", " $SCF A=1 ! x $END\n $END\n", {}},
@@ -139,6 +140,9 @@ TEST_CASE("Formatted groups are asked for in capital letters, others are not") {
                 {"a numbered header",
                  " $Vec2\n $END\n",
                  {"1:2 '$Vec2' must be in capital letters, $VEC2 is a formatted group"}},
+                {"a header with two digits",
+                 " $vec90\n $END\n",
+                 {"1:2 '$vec90' must be in capital letters, $VEC90 is a formatted group"}},
                 {"another header",
                  " $hess\n $END\n",
                  {"1:2 '$hess' must be in capital letters, $HESS is a formatted group"}},

@@ -76,6 +76,9 @@ TEST_CASE("A basis set that no blank card closes is found at what follows it") {
                 {"before an atom without one",
                  inline_basis("C1\n" + oxygen + set + hydrogen),
                  {"7:1 " + before_atom}},
+                {"before what need not be an atom",
+                 inline_basis("C1\n" + oxygen + set + "OXY 8.0 0.0 0.0 1.0\n" + set + "\n"),
+                 {}},
                 {"a scale factor for each shell",
                  inline_basis("C1\n" + oxygen + "N31 6 1.0 1.0 1.0\n\n"),
                  {}},
@@ -92,35 +95,45 @@ TEST_CASE("A blank line is put behind a basis set") {
     CHECK(
         fixed(inline_basis("C1\n" + oxygen + set + hydrogen + set), "missing-blank-after-basis") ==
         inline_basis("C1\n" + oxygen + set + "\n" + hydrogen + set + "\n"));
+    CHECK(fixed(" $DATA\r\nt\r\nC1\r\nO 8 0 0 0\r\nS 1\r\n1 1 1\r\n$END\r\n",
+                "missing-blank-after-basis") ==
+          " $DATA\r\nt\r\nC1\r\nO 8 0 0 0\r\nS 1\r\n1 1 1\r\n\r\n$END\r\n");
     CHECK(fixed(" $DATA\nt\rC1\rO 8 0 0 0\rS 1\r1 1 1\r $END\r\n", "missing-blank-after-basis") ==
           " $DATA\nt\rC1\rO 8 0 0 0\rS 1\r1 1 1\r\r $END\r\n");
     const std::string one_line = " $DATA\nt\nC1\n" + oxygen + "S 1 ; 1 0.5 1.0 $END\n";
+    const std::string open = " $DATA\nt\nC1\nO 8 0 0 0\nS 1\n1 1 1";
+    CHECK(found(open, "missing-blank-after-basis").size() == 1);
+    CHECK(fixed(open, "missing-blank-after-basis") == open);
     CHECK(found(one_line, "missing-blank-after-basis").size() == 1);
     CHECK(fixed(one_line, "missing-blank-after-basis") == one_line);
 }
 
 TEST_CASE("A point group that GAMESS does not know is found") {
-    check_rows("point-group-name",
-               {{"known", with_basis("Cnv 2, ! x\n\n" + oxygen), {}},
-                {"in another notation",
-                 with_basis("C2v\n\n" + oxygen),
-                 {"4:1 GAMESS knows no point group 'C2v' | did you mean CNV 2?"}},
-                {"of no notation",
-                 with_basis("C9v\n\n" + oxygen),
-                 {"4:1 GAMESS knows no point group 'C9v'"}},
-                {"without its order",
-                 with_basis("DNH\n\n" + oxygen),
-                 {"4:1 Point group DNH needs the order of its axis, 1 to 8, behind it"}},
-                {"with too high an order",
-                 with_basis("DNH 9\n\n" + oxygen),
-                 {"4:1 Point group DNH needs the order of its axis, 1 to 8, behind it"}},
-                {"an atom in its place",
-                 with_basis(oxygen + oxygen),
-                 {"4:1 The second card of $DATA names no point group"}},
-                {"a blank card in its place",
-                 with_basis("\n" + oxygen),
-                 {"4:1 The second card of $DATA names no point group"}},
-                {"no card at all", " $DATA\nt\n $END\n", {}}});
+    check_rows(
+        "point-group-name",
+        {{"known", with_basis("Cnv 2, ! x\n\n" + oxygen), {}},
+         {"in another notation",
+          with_basis("C2v\n\n" + oxygen),
+          {"4:1 GAMESS knows no point group 'C2v' | did you mean CNV 2?"}},
+         {"of no notation",
+          with_basis("C9v\n\n" + oxygen),
+          {"4:1 GAMESS knows no point group 'C9v'"}},
+         {"without its order",
+          with_basis("DNH\n\n" + oxygen),
+          {"4:1 Point group DNH needs the order of its axis, 1 to 8, behind it"}},
+         {"with too high an order",
+          with_basis("DNH 9\n\n" + oxygen),
+          {"4:1 Point group DNH needs the order of its axis, 1 to 8, behind it"}},
+         {"an atom in its place",
+          with_basis(oxygen + oxygen),
+          {"4:1 The second card of $DATA names no point group"}},
+         {"a blank card in its place",
+          with_basis("\n" + oxygen),
+          {"4:1 The second card of $DATA names no point group"}},
+         {"of the lowest order", with_basis("CN 1\n\n" + oxygen), {}},
+         {"of the highest order", with_basis("CN 8\n\n" + oxygen), {}},
+         {"with words behind it that make no atom", with_basis("O 8 0 0 x\n\n" + oxygen), {}},
+         {"no card at all", " $DATA\nt\n $END\n", {}}});
     CHECK(fixed(with_basis("D6h\n\n" + oxygen), "point-group-name") ==
           with_basis("DNH 6\n\n" + oxygen));
 }

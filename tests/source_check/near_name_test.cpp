@@ -15,11 +15,14 @@ struct NearRow {
 }  // namespace
 
 TEST_CASE("The nearest known names are asked for") {
-    const NearNames known(
-        {"scftyp", "RUNTYP", "MULT", "MAXIT", "MD", "MP2", "PP", "N", std::string(25, 'A')});
+    const NearNames known({"scftyp", "RUNTYP", "MULT", "MAXIT", "MD", "MP2", "PP", "N",
+                           std::string(24, 'B'), std::string(25, 'A')});
     const std::vector<NearRow> rows{
         {"a letter too many", "SCFTYPE", "did you mean SCFTYP?"},
         {"a letter too few", "RUNTP", "did you mean RUNTYP?"},
+        {"a letter too few in a short name", "MLT", "did you mean MULT?"},
+        {"two letters", "PQ", "did you mean PP?"},
+        {"two changes in five letters", "MAKIP", "did you mean MAXIT?"},
         {"another letter", "MULP", "did you mean MULT?"},
         {"two neighbours exchanged", "RUTNYP", "did you mean RUNTYP?"},
         {"exchanged in a short name", "MUTL", "did you mean MULT?"},
@@ -32,6 +35,8 @@ TEST_CASE("The nearest known names are asked for") {
         {"small letters", "maxlt", "did you mean MAXIT?"},
         {"the name itself", "MULT", ""},
         {"an empty word", "", ""},
+        {"a word of 23 letters", std::string(23, 'B'),
+         "did you mean " + std::string(24, 'B') + "?"},
         {"a word of 24 letters", std::string(24, 'A'), ""},
         {"a word of 26 letters", std::string(26, 'A'), ""},
     };

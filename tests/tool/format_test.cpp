@@ -22,7 +22,7 @@ const std::string folded_deck =
 TEST_CASE("Lines that GAMESS would cut are folded") {
     const Workplace place;
     CHECK(place.run({"format", "-"}, {.input = long_deck}) == Outcome{0, folded_deck, ""});
-    CHECK(place.run({"format", "--wrap", "-"}, {.input = long_deck}).out == folded_deck);
+    CHECK(place.run({"format", "--wrap", "80", "-"}, {.input = long_deck}).out == folded_deck);
     CHECK(place.run({"format", "--wrap=80", "-"}, {.input = long_deck}).out == folded_deck);
 }
 
@@ -148,6 +148,6 @@ TEST_CASE("Decks that are not in canonical layout are listed without a word on l
 TEST_CASE("Folding and canonical layout exclude each other, and force needs the latter") {
     const Workplace place;
     place.make("a.inp", long_deck);
-    CHECK(place.run({"format", "--canonical", "--wrap", "a.inp"}).status == 2);
+    CHECK(place.run({"format", "--canonical", "--wrap", "80", "a.inp"}).status == 2);
     CHECK(place.run({"format", "--force", "a.inp"}).status == 2);
 }

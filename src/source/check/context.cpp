@@ -37,26 +37,22 @@ Atom read_atom(const Deck& deck, const Item& card, CoordinateStyle style) {
     return atom;
 }
 
-/// The last use of a keyword in one copy of a group.
-std::optional<KeywordUse> last_in(const KeywordGroup& group, std::string_view key) {
+/// The last use of a keyword in one copy of a group, or null.
+const Item* last_in(const KeywordGroup& group, std::string_view key) noexcept {
     for (std::size_t i = group.items.size(); i > 0; --i)
-        if (is_key(group.items[i - 1], key))
-            return KeywordUse{&group, &group.items[i - 1], group.entries[i - 1]};
-    return std::nullopt;
+        if (is_key(group.items[i - 1], key)) return &group.items[i - 1];
+    return nullptr;
 }
 
 }  // namespace
 
-Context::Context(const Deck& deck) : deck_(deck) {
-    const std::string_view text = deck.text();
-    if (const std::size_t end = source::line_end(text, 0); end < text.size())
-        line_end_ = line_end_near(text, 0);
+Context::Context(const Deck& deck)
+    : deck_(deck), style_(coordinate_style(deck)), line_end_(line_end_near(deck.text(), 0)) {
     for (const Group& group : deck.sections()) {
         if (!group.visible) continue;
         if (group.kind == GroupKind::Keywords) add_keyword_group(group);
         if (data_ == nullptr && group.name == "DATA") data_ = &group;
     }
-    style_ = coordinate_style(deck);
     if (data_ != nullptr) read_molecule();
 }
 
@@ -76,6 +72,7 @@ void Context::add_keyword_group(const Group& group) {
 
 void Context::read_molecule() {
     layout_ = read_data_layout(deck_, *data_);
+    atoms_.reserve(layout_.atoms.size());
     for (const AtomCards& cards : layout_.atoms)
         atoms_.push_back(read_atom(deck_, cards.card, style_));
 }
@@ -98,19 +95,19 @@ bool Context::has_hidden_group(std::string_view name) const noexcept {
     });
 }
 
-std::optional<KeywordUse> Context::last(std::string_view section, std::string_view key) const {
+const Item* Context::last(std::string_view section, std::string_view key) const noexcept {
     for (std::size_t i = groups_.size(); i > 0; --i) {
         const KeywordGroup& group = groups_[i - 1];
         if (group.group->name != section) continue;
-        if (const auto use = last_in(group, key)) return use;
+        if (const Item* const item = last_in(group, key)) return item;
     }
-    return std::nullopt;
+    return nullptr;
 }
 
-std::string_view Context::last_word(std::string_view section, std::string_view key) const {
-    const auto use = last(section, key);
-    if (!use || use->item->words.empty()) return {};
-    return deck_.text(use->item->words.front());
+std::string_view Context::last_word(std::string_view section, std::string_view key) const noexcept {
+    const Item* const item = last(section, key);
+    if (item == nullptr || item->words.empty()) return {};
+    return deck_.text(item->words.front());
 }
 
 }  // namespace nurl::input::gamess::source::checks

@@ -58,12 +58,12 @@ public:
     /// Whether there is a group of that name, given in upper case, that GAMESS does not find.
     [[nodiscard]] bool has_hidden_group(std::string_view name) const noexcept;
 
-    /// Where the keyword whose value counts stands; nothing when there is none. Names in upper
-    /// case, the keyword without an index.
-    [[nodiscard]] std::optional<KeywordUse> last(std::string_view section,
-                                                 std::string_view key) const;
+    /// The keyword whose value counts; null when there is none. Names in upper case, the keyword
+    /// without an index.
+    [[nodiscard]] const Item* last(std::string_view section, std::string_view key) const noexcept;
     /// The first word of the value that counts; empty when there is none.
-    [[nodiscard]] std::string_view last_word(std::string_view section, std::string_view key) const;
+    [[nodiscard]] std::string_view last_word(std::string_view section,
+                                             std::string_view key) const noexcept;
 
     /// The `$DATA` that GAMESS reads, the first one; null when it finds none.
     [[nodiscard]] const Group* data() const noexcept { return data_; }
@@ -87,7 +87,7 @@ private:
     DataLayout layout_;
     CoordinateStyle style_ = CoordinateStyle::Cartesian;
     std::vector<Atom> atoms_;
-    std::string_view line_end_ = "\n";
+    std::string_view line_end_;
 };
 
 /// Calls `visit` with each keyword of a deck that stands in a group the schema knows.

@@ -1,5 +1,6 @@
 #include "source/check/groups.hpp"
 
+#include <optional>
 #include <string>
 #include <unordered_map>
 
@@ -25,12 +26,13 @@ std::string repeated_message(const Group& group, std::size_t first_line) {
 }  // namespace
 
 void find_unknown_group(const Context& context, Findings& findings) {
-    const NearNames known(schema::section_names());
+    std::optional<NearNames> known;
     for (const KeywordGroup& taken : context.keyword_groups()) {
         if (taken.spec != nullptr) continue;
+        if (!known) known.emplace(schema::section_names());
         const std::string& name = taken.group->name;
         findings.add(taken.group->header, validation::unknown_section_message(name),
-                     known.question(name));
+                     known->question(name));
     }
 }
 

@@ -92,7 +92,7 @@ std::optional<std::int64_t> control_number(const Context& context, std::string_v
 /// The keyword that the number of electrons is at odds with, or the molecule.
 Span electron_place(const Context& context) {
     for (const std::string_view key : {"MULT", "ICHARG"})
-        if (const auto use = context.last("CONTRL", key)) return use->item->span;
+        if (const Item* const item = context.last("CONTRL", key)) return item->span;
     return context.data()->header;
 }
 
@@ -115,9 +115,9 @@ void find_electron_count(const Context& context, Findings& findings) {
 }
 
 void find_missing_vec(const Context& context, Findings& findings) {
-    const auto use = context.last("GUESS", "GUESS");
-    if (!use || use->item->words.empty() || context.has_group("FMO")) return;
-    const Span word = use->item->words.front();
+    const Item* const guess = context.last("GUESS", "GUESS");
+    if (guess == nullptr || guess->words.empty() || context.has_group("FMO")) return;
+    const Span word = guess->words.front();
     if (!equal_ignoring_case(context.deck().text(word), "MOREAD")) return;
     // A file without a molecule is a part of a deck, and the orbitals may be in another part.
     if (context.data() == nullptr) return;

@@ -175,7 +175,6 @@ void find_open_punched_group(const Context& context, Findings& findings) {
 
 void find_hidden_end(const Context& context, Findings& findings) {
     for (const Group& group : context.deck().sections()) {
-        if (group.kind == GroupKind::FixedColumns) continue;
         const auto end = hidden_end(context.deck(), group);
         if (!end) continue;
         findings.add({*end, *end + end_marker.size()},

@@ -5,7 +5,6 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
-#include <string_view>
 #include <system_error>
 #include <vector>
 
@@ -42,11 +41,8 @@ the decks that would change, and the exit status is 1 when there are any.
 Examples:
   gms-inp format water.inp -o tidy.inp
   gms-inp format -i *.inp
-  gms-inp format --wrap=72 --check *.inp
+  gms-inp format --wrap 72 --check *.inp
   gms-inp format --canonical - < water.inp | diff water.inp -)";
-
-/// What the parser makes of `--wrap` without a number.
-constexpr std::string_view flag_alone = "true";
 
 struct Options {
     EditTarget target;
@@ -59,8 +55,7 @@ std::size_t columns_of(const std::string& text) {
     std::size_t columns = source::line_width;
     const char* const end = text.data() + text.size();
     const auto [stop, error] = std::from_chars(text.data(), end, columns);
-    const bool given = !text.empty() && text != flag_alone;
-    if (given && (error != std::errc{} || stop != end || columns == 0))
+    if (!text.empty() && (error != std::errc{} || stop != end || columns == 0))
         throw std::runtime_error("expected a number of columns, not '" + text + "'");
     return columns;
 }
@@ -117,8 +112,8 @@ Runner attach_format(CLI::App& app) {
     const auto options = std::make_shared<Options>();
     app.add_option("FILE", options->target.files, "Decks, or - for standard input")->required();
     CLI::Option* const wrap =
-        app.add_flag("--wrap", options->columns, "Columns to fold at, 80 unless given")
-            ->option_text("[=COLUMNS]");
+        app.add_option("--wrap", options->columns, "Columns to fold at, 80 unless given")
+            ->type_name("COLUMNS");
     CLI::Option* const canonical =
         app.add_flag("--canonical", options->canonical, "Write the canonical layout instead")
             ->excludes(wrap);

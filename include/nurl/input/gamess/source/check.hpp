@@ -24,7 +24,8 @@ struct Rule {
     std::string_view explanation;  ///< one paragraph: what GAMESS does, why it matters, what to do
 };
 
-/// All rules, by name in ascending order; valid for the life of the process.
+/// All rules, by name in ascending order; valid for the life of the process. `docs/rules.md` tells
+/// what each of them is about and what they find in real decks.
 [[nodiscard]] NURL_GMS_INP_EXPORT std::span<const Rule> rules() noexcept;
 
 /// The rule of a name, or null. Any letter case.
