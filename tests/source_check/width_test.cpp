@@ -89,3 +89,16 @@ TEST_CASE("A wide line is left to the author where cutting it is not simple") {
         CHECK(fold(text) == text);
     }
 }
+
+TEST_CASE("A wide line is cut only when the second line has room") {
+    const std::string first = " $CONTRL SCFTYP=RHF";
+    const std::string fits = "A=" + std::string(77, 'x');
+    CHECK(fold(first + ' ' + fits + "\n $END\n") == first + "\n " + fits + "\n $END\n");
+    const std::string too_wide = first + ' ' + fits + "x\n $END\n";
+    CHECK(fold(too_wide) == too_wide);
+}
+
+TEST_CASE("A parenthesis that was not opened hinders no cut") {
+    const std::string line = filled(" $CONTRL A=1)", 78);
+    CHECK(fold(line + "2 B=1 $END\n") == line + "2\n B=1 $END\n");
+}
