@@ -95,13 +95,13 @@ std::string trim(std::string_view text) {
 
 std::string to_upper_copy(std::string_view text) {
     std::string copy(text);
-    std::ranges::transform(copy, copy.begin(), to_upper);
+    for (char& c : copy) c = to_upper(c);
     return copy;
 }
 
 std::string to_lower_copy(std::string_view text) {
     std::string copy(text);
-    std::ranges::transform(copy, copy.begin(), to_lower);
+    for (char& c : copy) c = to_lower(c);
     return copy;
 }
 

@@ -4,12 +4,43 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
+#include <cstdint>
+#include <limits>
 #include <string_view>
 
 namespace nurl::input::gamess::detail {
 
+/// What a character can be, one bit each.
+enum CharacterClass : std::uint8_t {
+    Blank = 1,
+    Letter = 2,
+    Digit = 4,
+    Underscore = 8,
+    Dollar = 16
+};
+
+/// The classes of every byte.
+inline constexpr auto character_classes = [] {
+    std::array<std::uint8_t, std::numeric_limits<unsigned char>::max() + 1> classes{};
+    const auto mark = [&classes](std::string_view characters, CharacterClass as) {
+        for (const char c : characters) classes.at(static_cast<unsigned char>(c)) |= as;
+    };
+    mark(" \t\n\v\f\r", Blank);
+    mark("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz", Letter);
+    mark("0123456789", Digit);
+    mark("_", Underscore);
+    mark("$", Dollar);
+    return classes;
+}();
+
+/// Whether `c` is in one of the classes, given as their bits.
+constexpr bool is_in(char c, int classes) noexcept {
+    return (character_classes[static_cast<unsigned char>(c)] & classes) != 0;
+}
+
 /// Whether `c` is white space: space, tab, newline, vertical tab, form feed or carriage return.
-constexpr bool is_blank(char c) noexcept { return c == ' ' || (c >= '\t' && c <= '\r'); }
+constexpr bool is_blank(char c) noexcept { return is_in(c, Blank); }
 
 /// Maps 'a'..'z' to 'A'..'Z' and leaves every other byte alone.
 constexpr char to_upper(char c) noexcept {
@@ -17,11 +48,30 @@ constexpr char to_upper(char c) noexcept {
 }
 
 /// Whether `c` is an ASCII letter.
-constexpr bool is_letter(char c) noexcept { return to_upper(c) >= 'A' && to_upper(c) <= 'Z'; }
+constexpr bool is_letter(char c) noexcept { return is_in(c, Letter); }
+
+/// The classes of what may stand in a keyword.
+inline constexpr int name_characters = Letter | Digit | Underscore;
 
 /// Whether `c` may stand in a keyword: a letter, a digit or `_`.
-constexpr bool is_name_character(char c) noexcept {
-    return is_letter(c) || (c >= '0' && c <= '9') || c == '_';
+constexpr bool is_name_character(char c) noexcept { return is_in(c, name_characters); }
+
+/// The first offset from `at` on whose character is in one of the classes, or the size of the text.
+constexpr std::size_t find_class(std::string_view text, int classes, std::size_t at) noexcept {
+    while (at < text.size() && !is_in(text[at], classes)) ++at;
+    return at;
+}
+
+/// The first offset from `at` on whose character is in none of the classes, or the size of the
+/// text.
+constexpr std::size_t skip_class(std::string_view text, int classes, std::size_t at) noexcept {
+    while (at < text.size() && is_in(text[at], classes)) ++at;
+    return at;
+}
+
+/// Whether `text` is empty or all white space.
+constexpr bool is_blank_text(std::string_view text) noexcept {
+    return skip_class(text, Blank, 0) == text.size();
 }
 
 /// The part of `text` between the characters at its ends for which `drop` is true.
@@ -36,9 +86,6 @@ constexpr std::string_view trim_view_if(std::string_view text, Predicate drop) n
 constexpr std::string_view trim_view(std::string_view text) noexcept {
     return trim_view_if(text, is_blank);
 }
-
-/// Whether `text` is empty or all white space.
-constexpr bool is_blank_text(std::string_view text) noexcept { return trim_view(text).empty(); }
 
 /// `text` without one leading `$`.
 constexpr std::string_view without_dollar(std::string_view text) noexcept {
@@ -60,7 +107,7 @@ constexpr std::string_view without_byte_order_mark(std::string_view text) noexce
 
 /// Whether two texts are the same but for the case of ASCII letters.
 constexpr bool equal_ignoring_case(std::string_view a, std::string_view b) noexcept {
-    return std::ranges::equal(a, b, {}, to_upper, to_upper);
+    return a.size() == b.size() && std::ranges::equal(a, b, {}, to_upper, to_upper);
 }
 
 /// Whether `text` begins with `prefix` but for the case of ASCII letters.

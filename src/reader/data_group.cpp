@@ -26,9 +26,8 @@ Words split_words(std::string_view text) noexcept {
     Words words;
     std::size_t at = 0;
     while (words.count < words.word.size()) {
-        while (at < text.size() && is_blank(text[at])) ++at;
-        const std::size_t begin = at;
-        while (at < text.size() && !is_blank(text[at])) ++at;
+        const std::size_t begin = skip_class(text, Blank, at);
+        at = find_class(text, Blank, begin);
         if (begin == at) break;
         words.word[words.count++] = text.substr(begin, at - begin);
     }
@@ -78,6 +77,10 @@ void read_data_group(const HeaderLine& header, LineCursor& lines, ParseResult& r
     if (cut.has_end) return;
 
     for (; !lines.at_end(); lines.advance()) {
+        if (!lines.has_dollar()) {
+            add_line(lines.line(), result.input);
+            continue;
+        }
         if (read_header(lines.line())) return;
         const CutText line = cut_at_end(lines.line());
         add_line(line.text, result.input);

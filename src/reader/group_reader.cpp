@@ -1,12 +1,10 @@
 #include "reader/group_reader.hpp"
 
-#include <string_view>
+#include <algorithm>
 #include <utility>
 
 #include "model/text_view.hpp"
 #include "nurl/core/text.hpp"
-#include "nurl/input/gamess/schema.hpp"
-#include "reader/pair_split.hpp"
 
 namespace nurl::input::gamess::detail {
 
@@ -19,52 +17,44 @@ constexpr std::string_view ended_by_header =
     " reached the next section before $END; treating it as implicitly terminated";
 constexpr std::string_view ended_by_file = " reached end-of-file without $END";
 
-/// The group under construction.
-class GroupBody {
-public:
-    GroupBody(std::string name, std::vector<std::string>& warnings)
-        : mode_(schema::section_parse_mode(name)),
-          section_{std::move(name), {}, {}},
-          warnings_(&warnings) {}
+}  // namespace
 
-    /// Takes a piece of text; `kept` is the warning that free text in it is worth.
-    void add(std::string_view text, std::string_view kept) {
-        if (mode_ == schema::SectionParseMode::Raw)
-            add_leftover(trim_view(text), kept);
-        else
-            add_keyword_text(text, kept);
+NamedSection GroupReader::read(const HeaderLine& header, LineCursor& lines) {
+    section_.name = core::text::to_upper_copy(header.name);
+    mode_ = schema::section_parse_mode(section_.name);
+    pairs_.clear();
+    const CutText cut = cut_at_end(header.remainder);
+    add(cut.text, header_text_kept);
+    lines.advance();
+    if (!cut.has_end) {
+        reserve_raw_lines(lines);
+        const std::string_view fault = read_body(lines);
+        if (!fault.empty()) warn(fault);
     }
+    section_.entries = to_entries(pairs_);
+    return std::exchange(section_, {});
+}
 
-    void warn(std::string_view about) {
-        warnings_->push_back("Section $" + section_.name + std::string{about});
-    }
-
-    [[nodiscard]] NamedSection take() && { return std::move(section_); }
-
-private:
-    void add_keyword_text(std::string_view text, std::string_view kept) {
-        split_pairs(text, section_.entries, leftover_);
-        add_leftover(trim_view(leftover_), kept);
-    }
-
-    void add_leftover(std::string_view text, std::string_view kept) {
-        if (text.empty()) return;
-        section_.raw_lines.emplace_back(text);
-        if (mode_ == schema::SectionParseMode::Structured && !is_comment(text)) warn(kept);
-    }
-
-    schema::SectionParseMode mode_;
-    NamedSection section_;
-    std::vector<std::string>* warnings_;
-    std::string leftover_;
-};
+/// The lines of a punched group are of one length and go on to its `$END`, so their number is
+/// known. Short ones are not taken at their word: what they make room for must not outgrow the
+/// text.
+void GroupReader::reserve_raw_lines(const LineCursor& lines) {
+    constexpr std::size_t least_line = 64;
+    if (mode_ != schema::SectionParseMode::Raw || lines.at_end()) return;
+    section_.raw_lines.reserve(lines.bytes_before_dollar() /
+                               std::max(lines.line().size() + 1, least_line));
+}
 
 /// Reads the lines behind the header. @return how the group ended, as a warning; empty for `$END`
-std::string_view read_body(LineCursor& lines, GroupBody& body) {
+std::string_view GroupReader::read_body(LineCursor& lines) {
     for (; !lines.at_end(); lines.advance()) {
+        if (!lines.has_dollar()) {
+            add(lines.line(), body_text_kept);
+            continue;
+        }
         if (read_header(lines.line())) return ended_by_header;
         const CutText cut = cut_at_end(lines.line());
-        body.add(cut.text, body_text_kept);
+        add(cut.text, body_text_kept);
         if (cut.has_end) {
             lines.advance();
             return {};
@@ -73,19 +63,18 @@ std::string_view read_body(LineCursor& lines, GroupBody& body) {
     return ended_by_file;
 }
 
-}  // namespace
+/// Takes a piece of text; `kept` is the warning that free text in it is worth.
+void GroupReader::add(std::string_view text, std::string_view kept) {
+    const bool is_raw = mode_ == schema::SectionParseMode::Raw;
+    if (!is_raw) split_pairs(text, pairs_, leftover_);
+    const std::string_view rest = trim_view(is_raw ? text : leftover_);
+    if (rest.empty()) return;
+    section_.raw_lines.emplace_back(rest);
+    if (mode_ == schema::SectionParseMode::Structured && !is_comment(rest)) warn(kept);
+}
 
-NamedSection read_group(const HeaderLine& header, LineCursor& lines,
-                        std::vector<std::string>& warnings) {
-    GroupBody body(core::text::to_upper_copy(header.name), warnings);
-    const CutText cut = cut_at_end(header.remainder);
-    body.add(cut.text, header_text_kept);
-    lines.advance();
-    if (!cut.has_end) {
-        const std::string_view fault = read_body(lines, body);
-        if (!fault.empty()) body.warn(fault);
-    }
-    return std::move(body).take();
+void GroupReader::warn(std::string_view about) {
+    warnings_->push_back("Section $" + section_.name + std::string{about});
 }
 
 }  // namespace nurl::input::gamess::detail

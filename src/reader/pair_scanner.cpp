@@ -1,8 +1,11 @@
 // One walk over the text. A value can only be ended by looking ahead behind each run of blanks for
-// another `KEY =`; a word that turns out to be none is looked at a second time as part of the
-// value. Index suffixes without inner parentheses are found by stepping to the next parenthesis,
-// nested ones through a table, so no stretch of text is searched more than a fixed number of times.
+// another `KEY =`; the key found there is remembered, and a word that turns out to be none is
+// looked at a second time as part of the value. Index suffixes without inner parentheses are found
+// by stepping to the next parenthesis, nested ones through a table, so no stretch of text is
+// searched more than a fixed number of times.
 #include "reader/pair_scanner.hpp"
+
+#include <utility>
 
 #include "model/text_view.hpp"
 
@@ -18,36 +21,20 @@ constexpr bool is_value_padding(char c) noexcept {
 }  // namespace
 
 std::optional<PairView> PairScanner::next() {
-    while ((position_ = find_letter(position_)) < text_.size()) {
-        const std::size_t begin = position_;
-        position_ = key_end(begin);
-        const std::string_view key = text_.substr(begin, position_ - begin);
-        const std::size_t equals = skip_blanks(position_);
-        if (equals == text_.size() || text_[equals] != '=') continue;
-
-        const std::size_t value_begin = skip_blanks(equals + 1);
+    while (const std::optional<Word> key = next_key()) {
+        const std::size_t value_begin = skip_blanks(key->behind + 1);
         position_ = value_end(value_begin);
         const std::string_view value =
             trim_view_if(text_.substr(value_begin, position_ - value_begin), is_value_padding);
-        if (!value.empty()) return PairView{key, value, begin, position_};
+        if (!value.empty())
+            return PairView{text_.substr(key->begin, key->end - key->begin), value, key->begin,
+                            position_};
     }
     return std::nullopt;
 }
 
 std::size_t PairScanner::skip_blanks(std::size_t from) const noexcept {
-    while (from < text_.size() && is_blank(text_[from])) ++from;
-    return from;
-}
-
-std::size_t PairScanner::find_letter(std::size_t from) const noexcept {
-    while (from < text_.size() && !is_letter(text_[from])) ++from;
-    return from;
-}
-
-std::size_t PairScanner::key_end(std::size_t begin) {
-    std::size_t end = begin;
-    while (end < text_.size() && is_name_character(text_[end])) ++end;
-    return end < text_.size() && text_[end] == '(' ? suffix_end(end) : end;
+    return skip_class(text_, Blank, from);
 }
 
 std::size_t PairScanner::suffix_end(std::size_t open) {
@@ -57,21 +44,38 @@ std::size_t PairScanner::suffix_end(std::size_t open) {
     return text_[next] == ')' ? next + 1 : nested_.end_of(text_, open);
 }
 
-bool PairScanner::is_pair(std::size_t begin) {
-    if (!is_letter(text_[begin])) return false;
-    const std::size_t equals = skip_blanks(key_end(begin));
-    return equals < text_.size() && text_[equals] == '=';
+PairScanner::Word PairScanner::read_word(std::size_t begin) {
+    std::size_t end = skip_class(text_, name_characters, begin);
+    if (end < text_.size() && text_[end] == '(') end = suffix_end(end);
+    return {begin, end, skip_blanks(end)};
+}
+
+bool PairScanner::is_key(const Word& word) const noexcept {
+    return word.behind < text_.size() && text_[word.behind] == '=';
+}
+
+std::optional<PairScanner::Word> PairScanner::next_key() {
+    if (ahead_) return std::exchange(ahead_, std::nullopt);
+    while ((position_ = find_class(text_, Letter, position_)) < text_.size()) {
+        const Word word = read_word(position_);
+        if (is_key(word)) return word;
+        position_ = word.end;
+    }
+    return std::nullopt;
+}
+
+bool PairScanner::sees_key(std::size_t at) {
+    if (at == text_.size() || !is_letter(text_[at])) return false;
+    const Word word = read_word(at);
+    if (is_key(word)) ahead_ = word;
+    return ahead_.has_value();
 }
 
 std::size_t PairScanner::value_end(std::size_t begin) {
     std::size_t at = begin;
-    while (at < text_.size() && text_[at] != '$') {
-        if (!is_blank(text_[at])) {
-            ++at;
-            continue;
-        }
+    while ((at = find_class(text_, Blank | Dollar, at)) < text_.size() && text_[at] != '$') {
         const std::size_t next = skip_blanks(at);
-        if (next < text_.size() && (text_[next] == '$' || is_pair(next))) return at;
+        if (text_.substr(next).starts_with('$') || sees_key(next)) return at;
         at = next;
     }
     return at;

@@ -31,15 +31,24 @@ public:
     [[nodiscard]] std::optional<PairView> next();
 
 private:
+    /// A word that begins with a letter, with its index suffix.
+    struct Word {
+        std::size_t begin = 0;
+        std::size_t end = 0;
+        std::size_t behind = 0;  ///< offset behind the blanks that follow
+    };
+
     [[nodiscard]] std::size_t skip_blanks(std::size_t from) const noexcept;
-    [[nodiscard]] std::size_t find_letter(std::size_t from) const noexcept;
-    [[nodiscard]] std::size_t key_end(std::size_t begin);
     [[nodiscard]] std::size_t suffix_end(std::size_t open);
-    [[nodiscard]] bool is_pair(std::size_t begin);
+    [[nodiscard]] Word read_word(std::size_t begin);
+    [[nodiscard]] bool is_key(const Word& word) const noexcept;
+    [[nodiscard]] std::optional<Word> next_key();
+    [[nodiscard]] bool sees_key(std::size_t at);
     [[nodiscard]] std::size_t value_end(std::size_t begin);
 
     std::string_view text_;
     std::size_t position_ = 0;
+    std::optional<Word> ahead_;  // the key that ended the last value
     ParenthesisTable nested_;
 };
 

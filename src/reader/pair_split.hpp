@@ -1,7 +1,8 @@
 /// @file
-/// Cutting keyword text into entries and the text between them.
+/// Cutting keyword text into pairs and the text between them.
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,10 +11,19 @@
 
 namespace nurl::input::gamess::detail {
 
-/// Appends the pairs in `text` to `entries`, keys in upper case and values trimmed.
+/// A pair cut out of a text, both views pointing into it.
+struct PairText {
+    std::string_view key;    ///< as written, index suffix included
+    std::string_view value;  ///< trimmed
+};
+
+/// Appends the pairs in `text` to `pairs`.
 ///
 /// @param leftover  replaced by the text before, between and behind the pairs, joined without
-///                  separators and not trimmed; its memory is reused
-void split_pairs(std::string_view text, std::vector<KeyValue>& entries, std::string& leftover);
+///                  separators; blank ones at its front are left out; its memory is reused
+void split_pairs(std::string_view text, std::vector<PairText>& pairs, std::string& leftover);
+
+/// The pairs as entries, keys in upper case.
+[[nodiscard]] std::vector<KeyValue> to_entries(std::span<const PairText> pairs);
 
 }  // namespace nurl::input::gamess::detail

@@ -14,13 +14,13 @@ namespace nurl::input::gamess {
 namespace {
 
 void read_any_group(const detail::HeaderLine& header, detail::LineCursor& lines,
-                    ParseResult& result) {
+                    detail::GroupReader& groups, ParseResult& result) {
     if (detail::equal_ignoring_case(header.name, "DATA")) {
         detail::read_data_group(header, lines, result);
         return;
     }
     std::vector<NamedSection>& sections = result.input.sections;
-    sections.push_back(detail::read_group(header, lines, result.warnings));
+    sections.push_back(groups.read(header, lines));
     detail::lift_structured(sections.back(), result.input);
 }
 
@@ -28,11 +28,12 @@ void read_any_group(const detail::HeaderLine& header, detail::LineCursor& lines,
 
 ParseResult parse_string(std::string_view text) {
     ParseResult result;
+    detail::GroupReader groups(result.warnings);
     detail::LineCursor lines(detail::without_byte_order_mark(text));
     while (!lines.at_end()) {
         if (const auto header = detail::read_header(lines.line())) {
             result.ok = true;
-            read_any_group(*header, lines, result);
+            read_any_group(*header, lines, groups, result);
         } else {
             lines.advance();
         }

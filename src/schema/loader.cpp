@@ -42,11 +42,13 @@ constexpr std::array<Word<bool EntrySpec::*>, 2> entry_flags{{
     {"repeated", &EntrySpec::repeated},
 }};
 
-/// What a word stands for. @return `otherwise` when it is not in the table
+using detail::equal_ignoring_case;
+
+/// What a plain word stands for. @return `otherwise` when it is not in the table
 template <class Value, std::size_t Size>
 Value look_up(const std::array<Word<Value>, Size>& table, std::string_view word, Value otherwise) {
     for (const Word<Value>& row : table)
-        if (is_word(word, row.word)) return row.value;
+        if (equal_ignoring_case(word, row.word)) return row.value;
     return otherwise;
 }
 
@@ -122,20 +124,21 @@ private:
         if (!property) return;
         if (const auto flag = look_up(section_flags, property->key, {}))
             section_->*flag = read_flag(property->value, true);
-        else if (is_word(property->key, "parse_mode"))
+        else if (equal_ignoring_case(property->key, "parse_mode"))
             section_->parse_mode =
-                look_up(parse_modes, property->value, SectionParseMode::Keywords);
-        else if (is_word(property->key, "alias_of"))
+                look_up(parse_modes, plain_word(property->value), SectionParseMode::Keywords);
+        else if (equal_ignoring_case(property->key, "alias_of"))
             section_->alias_of = normalize_section_name(property->value);
     }
 
     void begin_entry(std::string_view text) {
         if (!in_entries_ || !text.ends_with(':')) return;
-        const std::string name = normalize_entry_name(text.substr(0, text.size() - 1));
-        EntrySpec& spec = section_->entries[name];
-        spec = {};
-        if (choices_ != nullptr) choices_->erase(&spec);
-        entry_ = name.empty() ? nullptr : &spec;
+        const auto [place, is_new] =
+            section_->entries.try_emplace(normalize_entry_name(text.substr(0, text.size() - 1)));
+        EntrySpec& spec = place->second;
+        if (!is_new) spec = {};
+        if (!is_new && choices_ != nullptr) choices_->erase(&spec);
+        entry_ = place->first.empty() ? nullptr : &spec;
     }
 
     void set_entry_property(std::string_view text) {
@@ -144,11 +147,12 @@ private:
         if (!property) return;
         if (const auto flag = look_up(entry_flags, property->key, {}))
             entry_->*flag = read_flag(property->value, false);
-        else if (is_word(property->key, "kind"))
-            entry_->kind = look_up(entry_kinds, property->value, EntryKind::Unspecified);
-        else if (is_word(property->key, "value_type"))
+        else if (equal_ignoring_case(property->key, "kind"))
+            entry_->kind =
+                look_up(entry_kinds, plain_word(property->value), EntryKind::Unspecified);
+        else if (equal_ignoring_case(property->key, "value_type"))
             entry_->value_type = normalize_section_name(property->value);
-        else if (choices_ != nullptr && is_word(property->key, "choices"))
+        else if (choices_ != nullptr && equal_ignoring_case(property->key, "choices"))
             (*choices_)[entry_] = property->value;
     }
 

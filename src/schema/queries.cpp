@@ -21,8 +21,8 @@ std::string normalize_section_name(std::string_view name) {
 }
 
 std::string normalize_entry_name(std::string_view name) {
-    const std::string entry = normalize_section_name(name);
-    return core::text::trim(detail::without_index(entry));
+    const std::string_view entry = detail::without_dollar(detail::trim_view(name));
+    return core::text::to_lower_copy(detail::trim_view(detail::without_index(entry)));
 }
 
 const SectionSpec* find_section(std::string_view section) {

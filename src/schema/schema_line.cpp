@@ -12,6 +12,7 @@ namespace {
 using detail::trim_view;
 
 std::string_view without_comment(std::string_view line) noexcept {
+    if (line.find('#') == std::string_view::npos) return line;
     char quote = '\0';
     for (std::size_t at = 0; at < line.size(); ++at) {
         const char c = line[at];
@@ -36,13 +37,15 @@ std::string_view unquote(std::string_view text) noexcept {
 
 SchemaLine read_line(std::string_view line) noexcept {
     const std::string_view content = without_comment(line);
-    return {trim_view(content), std::min(content.find_first_not_of(' '), content.size())};
+    std::size_t indentation = 0;
+    while (indentation < content.size() && content[indentation] == ' ') ++indentation;
+    return {trim_view(content.substr(indentation)), indentation};
 }
 
 std::optional<Property> read_property(std::string_view text) noexcept {
     const std::size_t colon = text.find(':');
     if (colon == std::string_view::npos) return std::nullopt;
-    return Property{text.substr(0, colon), unquote(text.substr(colon + 1))};
+    return Property{plain_word(text.substr(0, colon)), unquote(text.substr(colon + 1))};
 }
 
 std::vector<std::string_view> read_list(std::string_view value) {
@@ -68,8 +71,12 @@ bool read_flag(std::string_view value, bool otherwise) noexcept {
     return otherwise;
 }
 
+std::string_view plain_word(std::string_view text) noexcept {
+    return detail::without_dollar(trim_view(text));
+}
+
 bool is_word(std::string_view value, std::string_view word) noexcept {
-    return detail::equal_ignoring_case(detail::without_dollar(trim_view(value)), word);
+    return detail::equal_ignoring_case(plain_word(value), word);
 }
 
 }  // namespace nurl::input::gamess::schema

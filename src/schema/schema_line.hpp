@@ -20,7 +20,7 @@ struct SchemaLine {
 
 /// A `key: value` line. Both views point into the text given.
 struct Property {
-    std::string_view key;    ///< as written, for comparison by `is_word`
+    std::string_view key;    ///< as `plain_word` gives it
     std::string_view value;  ///< trimmed, one pair of equal quotes around it dropped
 };
 
@@ -35,6 +35,9 @@ struct Property {
 /// Reads a logical word: true, yes, on, 1 or false, no, off, 0 in any case.
 /// @return `otherwise` for every other text
 [[nodiscard]] bool read_flag(std::string_view value, bool otherwise) noexcept;
+
+/// A word as words are compared, but for the case of letters: trimmed, without a leading `$`.
+[[nodiscard]] std::string_view plain_word(std::string_view text) noexcept;
 
 /// Whether two words are the same once trimmed, without a leading `$` and without regard to case.
 [[nodiscard]] bool is_word(std::string_view value, std::string_view word) noexcept;

@@ -1,3 +1,5 @@
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "model/entries.hpp"
@@ -16,12 +18,12 @@ using gamess::detail::normalised_entry;
 using gamess::detail::trim_view;
 
 void collect_line(const std::string& line, SectionContent& content) {
-    const std::size_t before = content.entries.size();
+    std::vector<gamess::detail::PairText> pairs;
     std::string leftover;
-    gamess::detail::split_pairs(line, content.entries, leftover);
-    const bool has_pairs = content.entries.size() > before;
+    gamess::detail::split_pairs(line, pairs, leftover);
+    std::ranges::move(gamess::detail::to_entries(pairs), std::back_inserter(content.entries));
     if (is_blank_text(leftover)) return;
-    content.raw_lines.emplace_back(has_pairs ? trim_view(leftover) : line);
+    content.raw_lines.emplace_back(pairs.empty() ? line : trim_view(leftover));
 }
 
 }  // namespace

@@ -16,6 +16,7 @@ namespace {
 /// front of the point.
 class FixedNumber {
 public:
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): digits_ is set as far as it is read
     FixedNumber(double value, int decimals) noexcept {
         const auto written = std::to_chars(digits_.data(), digits_.data() + digits_.size(), value,
                                            std::chars_format::fixed, decimals);
@@ -27,9 +28,17 @@ public:
 private:
     static constexpr std::size_t capacity = std::numeric_limits<double>::max_exponent10 + 16;
 
-    std::array<char, capacity> digits_{};
+    std::array<char, capacity> digits_;  // clearing it would cost as much as filling it
     std::size_t size_ = 0;
 };
+
+constexpr std::size_t symbol_width = 2;
+constexpr std::size_t charge_width = 4;
+constexpr std::size_t coordinate_width = 16;
+
+/// A line of one atom, its newline included, in which no field overflows.
+constexpr std::size_t atom_line_width =
+    1 + symbol_width + 2 + charge_width + 3 * (2 + coordinate_width) + 1;
 
 void append_right(std::string_view field, std::size_t width, std::string& text) {
     if (field.size() < width) text.append(width - field.size(), ' ');
@@ -38,7 +47,6 @@ void append_right(std::string_view field, std::size_t width, std::string& text) 
 
 void append_charge(double charge, std::string& text) {
     constexpr double whole_tolerance = 1e-9;
-    constexpr std::size_t width = 4;
     const bool is_whole = std::abs(charge - std::round(charge)) <= whole_tolerance;
     const FixedNumber number(charge, is_whole ? 1 : 6);
     std::string_view field = number.text();
@@ -46,14 +54,13 @@ void append_charge(double charge, std::string& text) {
         while (field.ends_with('0')) field.remove_suffix(1);
         if (field.ends_with('.')) field.remove_suffix(1);
     }
-    append_right(field, width, text);
+    append_right(field, charge_width, text);
 }
 
 void append_coordinate(double value, std::string& text) {
     constexpr int decimals = 10;
-    constexpr std::size_t width = 16;
     text += "  ";
-    append_right(FixedNumber(value, decimals).text(), width, text);
+    append_right(FixedNumber(value, decimals).text(), coordinate_width, text);
 }
 
 double charge_of(const AtomRecord& atom, std::string_view symbol) {
@@ -62,7 +69,6 @@ double charge_of(const AtomRecord& atom, std::string_view symbol) {
 }
 
 void append_atom(const AtomRecord& atom, std::string& text) {
-    constexpr std::size_t symbol_width = 2;
     const std::string symbol = chem::elements::normalize_symbol(atom.symbol);
     text += ' ';
     text += symbol;
@@ -81,6 +87,14 @@ void append_line(std::string_view line, std::string& text) {
 }
 
 }  // namespace
+
+std::size_t data_block_size(const GamessInput& input) noexcept {
+    constexpr std::size_t frame = 64;  // header, end, and what stands for a blank title
+    std::size_t size = frame + input.title.size() + input.point_group.size();
+    size += input.atoms.size() * atom_line_width;
+    for (const std::string& line : input.data_lines) size += line.size() + 1;
+    return size;
+}
 
 void append_data_block(const GamessInput& input, std::string& text) {
     append_line(" $DATA", text);

@@ -19,6 +19,10 @@ bool data_is_due(const GamessInput& input, Predicate is_empty) {
            !input.data_lines.empty();
 }
 
+/// The size of `$DATA` as text, if no number is wider than its columns. Linear in the number of
+/// lines.
+[[nodiscard]] std::size_t data_block_size(const GamessInput& input) noexcept;
+
 /// Appends `$DATA`, each of its lines ended by a newline. Atoms stand in fixed columns and wider
 /// numbers overflow theirs; the other lines follow as they are.
 void append_data_block(const GamessInput& input, std::string& text);

@@ -17,10 +17,22 @@ namespace nurl::input::gamess {
 
 namespace {
 
+/// About the size of a document as text. Structured groups count as they were read; what their
+/// records hold besides is small.
+std::size_t expected_size(const GamessInput& input) {
+    std::size_t size = detail::data_block_size(input);
+    for (const NamedSection& section : input.sections) size += detail::group_block_size(section);
+    for (const NamedSection& section : input.extra_sections)
+        size += detail::group_block_size(section);
+    return size;
+}
+
 /// Writes the groups of a document, each structured one at most once.
 class DeckText {
 public:
-    explicit DeckText(const GamessInput& input) : input_(&input) {}
+    explicit DeckText(const GamessInput& input) : input_(&input) {
+        text_.reserve(expected_size(input));
+    }
 
     /// Writes a group that was read: a structured one from its record, whatever the copy holds.
     void add_read(const NamedSection& section) {

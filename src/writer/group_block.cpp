@@ -20,6 +20,14 @@ void append_entry_text(const KeyValue& entry, std::string& text) {
 
 }  // namespace
 
+std::size_t group_block_size(const NamedSection& section) noexcept {
+    constexpr std::size_t frame = 10;  // ` $` before the name, line ends, ` $END`
+    std::size_t size = frame + section.name.size();
+    for (const KeyValue& entry : section.entries) size += entry.key.size() + entry.value.size() + 2;
+    for (const std::string& line : section.raw_lines) size += line.size() + 1;
+    return size;
+}
+
 void append_group_block(std::string_view header, std::span<const KeyValue> entries,
                         std::span<const std::string> raw_lines, std::string& text) {
     text += ' ';

@@ -11,6 +11,10 @@
 
 namespace nurl::input::gamess::detail {
 
+/// The size of the block of a group as text, or a little more. Linear in the number of entries and
+/// lines.
+[[nodiscard]] std::size_t group_block_size(const NamedSection& section) noexcept;
+
 /// Appends the block of a group: a blank, the header, the entries that `append_entry` would take,
 /// the raw lines and `$END`, without a final newline.
 ///
