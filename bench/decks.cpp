@@ -10,6 +10,7 @@ namespace {
 
 constexpr std::size_t columns = 80;
 constexpr std::size_t pairs_a_line = 5;
+constexpr std::size_t words_a_line = 9;
 constexpr int lines_a_group = 20;
 
 /// A number with leading blanks, as decks are punched.
@@ -74,6 +75,17 @@ std::string keyword_deck(std::size_t bytes) {
     return text;
 }
 
+std::string list_deck(std::size_t bytes) {
+    std::string text = " $FMO\n NFRAG=1000\n INDAT(1)=\n";
+    std::size_t number = 0;
+    while (text.size() < bytes) {
+        for (std::size_t word = 0; word < words_a_line; ++word)
+            text += right(++number % 1000000, 8);
+        text += '\n';
+    }
+    return text + " $END\n";
+}
+
 std::string wide_group_deck(std::size_t keywords) {
     std::string text = " $FORCE\n";
     for (std::size_t i = 0; i < keywords; ++i)
@@ -88,7 +100,7 @@ std::string optimisation_deck() {
         " $SYSTEM TIMLIM=525600 MWORDS=50 $END\n"
         " $BASIS GBASIS=N31 NGAUSS=6 NDFUNC=1 NPFUNC=1 DIFFSP=.TRUE. $END\n"
         " $SCF DIRSCF=.TRUE. DIIS=.TRUE. SOSCF=.FALSE. $END\n"
-        " $STATPT NSTEP=50 OPTTOL=0.0001 METHOD=GDIIS HSSEND=.TRUE. $END\n"
+        " $STATPT NSTEP=50 OPTTOL=0.0001 METHOD=QA HSSEND=.TRUE. $END\n"
         " $GUESS GUESS=HUCKEL $END\n"
         " $FORCE METHOD=ANALYTIC VIBANL=.TRUE. $END\n"
         " $DFT NRAD=96 NLEB=302 $END\n"

@@ -17,6 +17,9 @@ namespace nurl::bench {
 /// lines a group.
 [[nodiscard]] std::string keyword_deck(std::size_t bytes);
 
+/// A deck of about `bytes` bytes that are the values of one keyword, nine numbers a line.
+[[nodiscard]] std::string list_deck(std::size_t bytes);
+
 /// A deck of one keyword group with that many different keywords, one a line.
 [[nodiscard]] std::string wide_group_deck(std::size_t keywords);
 

@@ -4,7 +4,6 @@
 #include <array>
 #include <charconv>
 #include <cstdint>
-#include <cstring>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,29 +11,17 @@
 #include <benchmark/benchmark.h>
 
 #include "decks.hpp"
+#include "lines.hpp"
 #include "nurl/input/gamess/reader.hpp"
 
 namespace gamess = nurl::input::gamess;
+using nurl::bench::for_each_line;
 
 namespace {
 
 constexpr std::size_t orbital_bytes = 20'000'000;
 constexpr std::size_t atoms = 100'000;
 constexpr std::size_t keyword_bytes = 5'000'000;
-
-/// Calls `take` with every line of a text.
-template <class Take>
-void for_each_line(std::string_view text, Take take) {
-    while (!text.empty()) {
-        const void* const found = std::memchr(text.data(), '\n', text.size());
-        const std::size_t size =
-            found == nullptr
-                ? text.size()
-                : static_cast<std::size_t>(static_cast<const char*>(found) - text.data());
-        take(text.substr(0, size));
-        text.remove_prefix(std::min(size + 1, text.size()));
-    }
-}
 
 void parse(benchmark::State& state, const std::string& text) {
     for (auto run : state) benchmark::DoNotOptimize(gamess::parse_string(text));

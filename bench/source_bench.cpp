@@ -1,12 +1,12 @@
 // The index of a deck's text, beside finding the ends of its lines.
 #include <cstdint>
-#include <cstring>
 #include <string>
 #include <utility>
 
 #include <benchmark/benchmark.h>
 
 #include "decks.hpp"
+#include "lines.hpp"
 #include "nurl/input/gamess/source/check.hpp"
 #include "nurl/input/gamess/source/deck.hpp"
 
@@ -15,19 +15,6 @@ namespace source = nurl::input::gamess::source;
 namespace {
 
 constexpr std::size_t orbital_bytes = 20'000'000;
-
-std::size_t count_lines(const std::string& text) {
-    std::size_t lines = 0;
-    const char* const end = text.data() + text.size();
-    const char* at = text.data();
-    while (at != end) {
-        const void* const found = std::memchr(at, '\n', static_cast<std::size_t>(end - at));
-        if (found == nullptr) break;
-        ++lines;
-        at = static_cast<const char*>(found) + 1;
-    }
-    return lines;
-}
 
 /// A deck takes its text over; the copy that it is given is not measured.
 void index_deck(benchmark::State& state) {
@@ -47,7 +34,7 @@ void index_deck(benchmark::State& state) {
 
 void index_deck_floor(benchmark::State& state) {
     const std::string text = nurl::bench::orbital_deck(orbital_bytes);
-    for (auto run : state) benchmark::DoNotOptimize(count_lines(text));
+    for (auto run : state) benchmark::DoNotOptimize(nurl::bench::count_lines(text));
 }
 
 void check_deck(benchmark::State& state) {

@@ -145,13 +145,13 @@ private:
         if (entry_ == nullptr) return;
         const auto property = read_property(text);
         if (!property) return;
-        if (const auto flag = look_up(entry_flags, property->key, {}))
-            entry_->*flag = read_flag(property->value, false);
-        else if (equal_ignoring_case(property->key, "kind"))
+        if (equal_ignoring_case(property->key, "kind"))
             entry_->kind =
                 look_up(entry_kinds, plain_word(property->value), EntryKind::Unspecified);
         else if (equal_ignoring_case(property->key, "value_type"))
             entry_->value_type = normalize_section_name(property->value);
+        else if (const auto flag = look_up(entry_flags, property->key, {}))
+            entry_->*flag = read_flag(property->value, false);
         else if (choices_ != nullptr && equal_ignoring_case(property->key, "choices"))
             (*choices_)[entry_] = property->value;
     }

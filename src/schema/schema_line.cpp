@@ -71,10 +71,6 @@ bool read_flag(std::string_view value, bool otherwise) noexcept {
     return otherwise;
 }
 
-std::string_view plain_word(std::string_view text) noexcept {
-    return detail::without_dollar(trim_view(text));
-}
-
 bool is_word(std::string_view value, std::string_view word) noexcept {
     return detail::equal_ignoring_case(plain_word(value), word);
 }

@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "model/text_view.hpp"
+
 namespace nurl::input::gamess::schema {
 
 /// A line without its comment. The view points into the line given.
@@ -37,7 +39,9 @@ struct Property {
 [[nodiscard]] bool read_flag(std::string_view value, bool otherwise) noexcept;
 
 /// A word as words are compared, but for the case of letters: trimmed, without a leading `$`.
-[[nodiscard]] std::string_view plain_word(std::string_view text) noexcept;
+[[nodiscard]] constexpr std::string_view plain_word(std::string_view text) noexcept {
+    return detail::without_dollar(detail::trim_view(text));
+}
 
 /// Whether two words are the same once trimmed, without a leading `$` and without regard to case.
 [[nodiscard]] bool is_word(std::string_view value, std::string_view word) noexcept;

@@ -10,7 +10,9 @@
 namespace nurl::test {
 
 TemporaryDirectory::TemporaryDirectory(const std::filesystem::path& parent) {
-    std::string name = (std::filesystem::canonical(parent) / "nurl-test-XXXXXX").string();
+    const std::string filled_in_by_mkdtemp(6, 'X');
+    std::string name =
+        (std::filesystem::canonical(parent) / ("nurl-test-" + filled_in_by_mkdtemp)).string();
     if (::mkdtemp(name.data()) == nullptr) throw std::runtime_error("cannot make " + name);
     path_ = name;
 }

@@ -30,6 +30,13 @@ Group pick_keyword_group(const Deck& deck) {
     return *rc::gen::elementOf(groups);
 }
 
+/// A keyword of a group; the property is discarded when it has none.
+KeyValue pick_entry(const Deck& deck, const Group& group) {
+    const std::vector<KeyValue> entries = deck.list_keywords(group.name);
+    RC_PRE(!entries.empty());
+    return *rc::gen::elementOf(entries);
+}
+
 /// The length of the longest common beginning and, of the rest, the longest common end.
 std::pair<std::size_t, std::size_t> common_ends(const std::string& a, const std::string& b) {
     std::size_t front = 0;
@@ -84,9 +91,7 @@ TEST_CASE("Setting a keyword and setting it back gives the first bytes") {
         const std::string text = *nurl::test::plain_deck();
         Deck deck{text};
         const Group group = pick_keyword_group(deck);
-        const std::vector<KeyValue> entries = deck.list_keywords(group.name);
-        RC_PRE(!entries.empty());
-        const KeyValue entry = *rc::gen::elementOf(entries);
+        const KeyValue entry = pick_entry(deck, group);
         deck.set_keyword(group.name, entry.key, *nurl::test::plain_value());
         deck.set_keyword(group.name, entry.key, entry.value);
         RC_ASSERT(deck.text() == text);
@@ -98,9 +103,7 @@ TEST_CASE("Bytes outside the value stay as they are") {
         const std::string text = *nurl::test::plain_deck();
         Deck deck{text};
         const Group group = pick_keyword_group(deck);
-        const std::vector<KeyValue> entries = deck.list_keywords(group.name);
-        RC_PRE(!entries.empty());
-        const KeyValue entry = *rc::gen::elementOf(entries);
+        const KeyValue entry = pick_entry(deck, group);
         const std::string value = *nurl::test::plain_value();
         const std::size_t at = text.find(entry.key + '=') + entry.key.size() + 1;
         deck.set_keyword(group.name, entry.key, value);
