@@ -1,7 +1,9 @@
 # What every target of this project is compiled with.
 include_guard()
+include(Hardening)
 
-# Applies the language level, the hidden visibility and the warnings of this project to a target.
+# Applies the language level, the hidden visibility, the hardening and the warnings of this project to a
+# target.
 function(nurl_gms_inp_target_defaults target)
   target_compile_features(${target} PUBLIC cxx_std_20)
   set_target_properties(
@@ -23,5 +25,7 @@ function(nurl_gms_inp_target_defaults target)
             -Woverloaded-virtual
             -Wformat=2
             $<$<BOOL:${NURL_GMS_INP_WARNINGS_AS_ERRORS}>:-Werror>
+            -ffile-prefix-map=${PROJECT_BINARY_DIR}=build
             -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.)
+  nurl_gms_inp_harden(${target})
 endfunction()

@@ -207,6 +207,8 @@ bool write_text_file(const std::string& path, std::string_view text) {
     }
     std::error_code error;
     const std::filesystem::file_status status = std::filesystem::status(path, error);
+    // Through a handle on the directory it could be written, but nobody could open it afterwards.
+    if (error == std::errc::filename_too_long) return false;
     const bool is_special =
         std::filesystem::exists(status) && !std::filesystem::is_regular_file(status);
     return is_special ? write_directly(path, text) : replace_file(*target, text);

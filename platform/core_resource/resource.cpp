@@ -4,7 +4,10 @@
 #include <dlfcn.h>
 #include <filesystem>
 #include <system_error>
+#include <unistd.h>
 #include <utility>
+
+#include "trust.hpp"
 
 namespace nurl::core::resource {
 
@@ -70,10 +73,12 @@ std::string search_file(const char* env_var_name,
     if (is_regular_file_path(explicit_path)) return explicit_path;
     std::string named = getenv_string(env_var_name);
     if (is_regular_file_path(named)) return named;
+    const bool is_root = ::geteuid() == 0;
     for (const path& root : search_roots(extra_roots, parent_levels)) {
         for (const std::string& candidate : relative_candidates) {
             std::string file = (root / candidate).string();
-            if (is_regular_file_path(file)) return file;
+            if (!is_regular_file_path(file)) continue;
+            if (!is_root || only_root_could_write(file)) return file;
         }
     }
     return {};

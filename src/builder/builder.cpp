@@ -36,6 +36,18 @@ Record& engaged(std::optional<Record>& record) {
     return record ? *record : record.emplace();
 }
 
+/// Appends an entry to a record, which is made when it is absent.
+template <class Record>
+void add_entry(std::optional<Record>& record, std::string_view key, std::string_view value) {
+    if (record) {
+        record->extra.push_back(normalised_entry(key, value));
+        return;
+    }
+    Record made;
+    made.extra.push_back(normalised_entry(key, value));
+    record = std::move(made);
+}
+
 AtomRecord normalised(AtomRecord atom) {
     atom.symbol = chem::elements::normalize_symbol(atom.symbol);
     if (!atom.nuclear_charge)
@@ -161,22 +173,22 @@ InputBuilder& InputBuilder::add_control_keyword(std::string key, std::string val
 }
 
 InputBuilder& InputBuilder::add_system_keyword(std::string key, std::string value) {
-    engaged(input_.system).extra.push_back(normalised_entry(key, value));
+    add_entry(input_.system, key, value);
     return *this;
 }
 
 InputBuilder& InputBuilder::add_basis_keyword(std::string key, std::string value) {
-    engaged(input_.basis).extra.push_back(normalised_entry(key, value));
+    add_entry(input_.basis, key, value);
     return *this;
 }
 
 InputBuilder& InputBuilder::add_scf_keyword(std::string key, std::string value) {
-    engaged(input_.scf).extra.push_back(normalised_entry(key, value));
+    add_entry(input_.scf, key, value);
     return *this;
 }
 
 InputBuilder& InputBuilder::add_guess_keyword(std::string key, std::string value) {
-    engaged(input_.guess).extra.push_back(normalised_entry(key, value));
+    add_entry(input_.guess, key, value);
     return *this;
 }
 

@@ -17,6 +17,11 @@ namespace nurl::input::gamess::detail {
 /// A group name: trimmed, upper case, one leading `$` dropped.
 [[nodiscard]] std::string editor_section_name(std::string_view name);
 
+/// Whether `editor_section_name` makes a certain name of a group's. Copies nothing.
+///
+/// @param expected  as `editor_section_name` gives it
+[[nodiscard]] bool is_editor_section(std::string_view name, std::string_view expected) noexcept;
+
 /// `editor_section_name` behind a `$`; "$SECTION" when nothing is left.
 [[nodiscard]] std::string editor_dollar_name(std::string_view name);
 

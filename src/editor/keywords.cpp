@@ -4,6 +4,7 @@
 #include <utility>
 #include <variant>
 
+#include "editor/added_group.hpp"
 #include "editor/editor_names.hpp"
 #include "editor/entry_list.hpp"
 #include "editor/raw_line_cut.hpp"
@@ -79,16 +80,17 @@ void InputEditor::set_keyword(std::string_view section, std::string_view key,
     if (name.empty() || keyword.empty())
         throw std::runtime_error("Section name and keyword must be non-empty");
     if (name == "DATA") throw std::runtime_error("$DATA does not support key=value editing");
-    ensure_section(section);
+    detail::AddedGroup added(input_, name);
     if (detail::is_structured(name)) {
         detail::visit_structured(input_, name, [&](auto* record) {
             set_in_record(*record, keyword, editor_trim(value));
         });
-        return;
+    } else {
+        NamedSection* const group = input_.find_section(name);
+        if (group == nullptr) throw std::runtime_error("Failed to create section: " + name);
+        set_in_group(*group, keyword, editor_trim(value));
     }
-    NamedSection* const group = input_.find_section(name);
-    if (group == nullptr) throw std::runtime_error("Failed to create section: " + name);
-    set_in_group(*group, keyword, editor_trim(value));
+    added.keep();
 }
 
 bool InputEditor::add_keyword(std::string_view section, std::string_view key,

@@ -1,7 +1,8 @@
-#include <algorithm>
 #include <unordered_set>
 #include <utility>
+#include <vector>
 
+#include "editor/added_group.hpp"
 #include "editor/editor_names.hpp"
 #include "model/structured_groups.hpp"
 #include "nurl/input/gamess/editor.hpp"
@@ -27,27 +28,11 @@ bool clear_data(GamessInput& input) {
     return had_data;
 }
 
-/// Takes a structured group out of the deck. The record of CONTRL keeps its values.
-void disengage_structured(GamessInput& input, std::string_view name) noexcept {
-    if (name == "CONTRL") input.has_control = false;
-    if (name == "SYSTEM") input.system.reset();
-    if (name == "BASIS") input.basis.reset();
-    if (name == "SCF") input.scf.reset();
-    if (name == "GUESS") input.guess.reset();
-}
-
-void erase_copies(std::vector<NamedSection>& list, std::string_view name) {
-    std::erase_if(list, [name](const NamedSection& section) {
-        return editor_section_name(section.name) == name;
+/// Nothing may be thrown half-way, when groups have been moved up already.
+void erase_copies(std::vector<NamedSection>& list, std::string_view name) noexcept {
+    std::erase_if(list, [name](const NamedSection& section) noexcept {
+        return detail::is_editor_section(section.name, name);
     });
-}
-
-/// Fixes the place of a structured group in the written deck.
-void ensure_placeholder(std::vector<NamedSection>& sections, const std::string& name) {
-    const bool is_there = std::ranges::any_of(sections, [&name](const NamedSection& section) {
-        return editor_section_name(section.name) == name;
-    });
-    if (!is_there) sections.push_back({name, {}, {}});
 }
 
 /// Group names, each once, in the order of their first appearance.
@@ -82,13 +67,7 @@ bool InputEditor::has_section(std::string_view name) const {
 void InputEditor::ensure_section(std::string_view name) {
     const std::string bare = editor_section_name(name);
     if (bare.empty() || bare == "DATA") return;
-    if (detail::is_structured(bare)) {
-        ensure_placeholder(input_.sections, bare);
-        detail::engage_structured(input_, bare);
-    } else if (input_.find_section(bare) == nullptr) {
-        (input_.sections.empty() ? input_.extra_sections : input_.sections)
-            .push_back({bare, {}, {}});
-    }
+    detail::ensure_group(input_, bare);
 }
 
 bool InputEditor::remove_section(std::string_view name) {
@@ -96,7 +75,7 @@ bool InputEditor::remove_section(std::string_view name) {
     if (bare.empty()) return false;
     if (bare == "DATA") return clear_data(input_);
     const bool was_there = has_section(name);
-    disengage_structured(input_, bare);
+    detail::disengage_structured(input_, bare);
     erase_copies(input_.sections, bare);
     erase_copies(input_.extra_sections, bare);
     return was_there;

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <fstream>
+#include <ios>
 #include <string_view>
 
 #include "model/text_view.hpp"
@@ -170,8 +171,14 @@ Table read_schema(std::istream& stream, Choices* choices) {
     Table table = built_in_sections();
     SchemaReader reader(table, choices);
     std::string line;
-    if (std::getline(stream, line)) reader.add(detail::without_byte_order_mark(line));
-    while (std::getline(stream, line)) reader.add(line);
+    // Without exceptions, a line that there is no memory for would look like the end of the file.
+    stream.exceptions(std::ios::badbit);
+    try {
+        if (std::getline(stream, line)) reader.add(detail::without_byte_order_mark(line));
+        while (std::getline(stream, line)) reader.add(line);
+    } catch (const std::ios_base::failure&) {
+        return table;
+    }
     return table;
 }
 

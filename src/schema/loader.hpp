@@ -23,7 +23,8 @@ using Table = std::unordered_map<std::string, SectionSpec>;
 using Choices = std::unordered_map<const EntrySpec*, std::string>;
 
 /// The 23 built-in groups, with the lines of a stream laid over them. Linear in the length of the
-/// stream; where reading stops early, what was read stands.
+/// stream; where reading stops early, what was read stands. The stream is made to throw when it
+/// goes bad, so that memory exhaustion comes out.
 ///
 /// @param choices  gets the lists of words that keywords of the table take; may be null
 [[nodiscard]] Table read_schema(std::istream& stream, Choices* choices = nullptr);

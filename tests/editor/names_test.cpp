@@ -11,6 +11,7 @@ using nurl::input::gamess::detail::editor_key_name;
 using nurl::input::gamess::detail::editor_section_name;
 using nurl::input::gamess::detail::editor_trim;
 using nurl::input::gamess::detail::is_editor_blank;
+using nurl::input::gamess::detail::is_editor_section;
 using nurl::input::gamess::detail::same_editor_key;
 
 namespace {
@@ -67,6 +68,16 @@ TEST_CASE("A group name is trimmed, in upper case and without one leading dollar
     for (const NameCase& row : name_cases) {
         CAPTURE(row.shown);
         CHECK(editor_section_name(row.name) == row.section);
+    }
+}
+
+TEST_CASE("A group has an editor's name exactly when that is made of its own") {
+    for (const NameCase& group : name_cases) {
+        for (const NameCase& asked : name_cases) {
+            CAPTURE(group.shown);
+            CAPTURE(asked.shown);
+            CHECK(is_editor_section(group.name, asked.section) == (group.section == asked.section));
+        }
     }
 }
 

@@ -1,22 +1,21 @@
 #include <cerrno>
-#include <csignal>
 #include <filesystem>
 #include <string>
 #include <sys/mman.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 #include <vector>
 
 #include <doctest/doctest.h>
 
 #include "nurl/core/fs.hpp"
+#include "platform/child_process.hpp"
 #include "platform/system_faults.hpp"
 #include "platform/temporary_directory.hpp"
 
 using nurl::core::fs::write_text_file;
 using nurl::test::content;
+using nurl::test::in_child;
 using nurl::test::make_file;
 using nurl::test::SystemCall;
 using nurl::test::SystemFault;
@@ -25,14 +24,17 @@ using Names = std::vector<std::string>;
 
 namespace {
 
-/// Runs an action in a process of its own. @return whether it ended there with true
-template <class Action>
-bool in_child(Action action) {
-    const pid_t child = ::fork();
-    if (child == 0) ::_exit(action() ? 0 : 1);
-    int status = -1;
-    REQUIRE(::waitpid(child, &status, 0) == child);
-    return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+/// What a write gives, in a word.
+std::string outcome_of_write(const std::string& path, std::string_view text) {
+    return write_text_file(path, text) ? "written" : "refused";
+}
+
+/// As `outcome_of_write`, by a user with no rights but those that everybody has.
+std::string outcome_for_ordinary_user(const std::string& path) {
+    return in_child([&path] {
+        nurl::test::become_ordinary_user();
+        return outcome_of_write(path, "new");
+    });
 }
 
 /// Replaces a file while a system call fails. @return what the write gave
@@ -161,28 +163,37 @@ TEST_CASE("A text beyond the file size limit leaves the old file and nothing bes
     make_file(path, "old");
     const std::string text(5000, 'x');
     CHECK(in_child([&] {
-        const rlimit limit{1000, 1000};
-        if (std::signal(SIGXFSZ, SIG_IGN) == SIG_ERR) return false;
-        return ::setrlimit(RLIMIT_FSIZE, &limit) == 0 && !write_text_file(path, text);
-    }));
+              nurl::test::limit_file_size(1000);
+              return outcome_of_write(path, text);
+          }) == "refused");
     CHECK(content(path) == "old");
     CHECK(directory.names() == Names{"deck.inp"});
 }
 
 TEST_CASE("A file that its user may not write is not replaced") {
-    constexpr uid_t ordinary_user = 65534;
     const TemporaryDirectory directory;
     const std::string path = directory.file("deck.inp");
     make_file(path, "old");
     REQUIRE(::chmod(directory.path().c_str(), 0777) == 0);
     REQUIRE(::chmod(path.c_str(), 0444) == 0);
-    CHECK(in_child([&] {
-        const bool is_ordinary = ::geteuid() != 0 || ::setuid(ordinary_user) == 0;
-        return is_ordinary && write_text_file(directory.file("other"), "text") &&
-               !write_text_file(path, "new");
-    }));
+    CHECK(outcome_for_ordinary_user(directory.file("other")) == "written");
+    CHECK(outcome_for_ordinary_user(path) == "refused");
     CHECK(content(path) == "old");
     CHECK(directory.names() == Names{"deck.inp", "other"});
+}
+
+TEST_CASE("A file in a directory that its user may not write is not replaced") {
+    const TemporaryDirectory directory;
+    const std::string path = directory.file("deck.inp");
+    make_file(path, "old");
+    REQUIRE(::chmod(path.c_str(), 0666) == 0);
+    REQUIRE(::chmod(directory.path().c_str(), 0555) == 0);
+    CHECK(outcome_for_ordinary_user(path) == "refused");
+    CHECK(outcome_for_ordinary_user(directory.file("new")) == "refused");
+    CHECK(content(path) == "old");
+    REQUIRE(::chmod(directory.path().c_str(), 0700) == 0);
+    CHECK(outcome_for_ordinary_user(path) == (::geteuid() == 0 ? "refused" : "written"));
+    CHECK(directory.names() == Names{"deck.inp"});
 }
 
 TEST_CASE("A directory is refused") {

@@ -4,16 +4,19 @@
 #include <filesystem>
 #include <string>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 #include <vector>
 
 #include <doctest/doctest.h>
 
 #include "nurl/core/fs.hpp"
+#include "platform/child_process.hpp"
 #include "platform/temporary_directory.hpp"
 
 using nurl::core::fs::write_text_file;
 using nurl::test::content;
+using nurl::test::in_child;
 using nurl::test::make_file;
 using nurl::test::TemporaryDirectory;
 using Names = std::vector<std::string>;
@@ -49,6 +52,43 @@ TEST_CASE("A named pipe is written directly and stays a pipe") {
     CHECK(written);
     CHECK(seen == "text");
     CHECK(std::filesystem::is_fifo(path));
+    CHECK(directory.names() == Names{"pipe"});
+}
+
+TEST_CASE("A named pipe is waited for until somebody reads it, and written whole") {
+    const TemporaryDirectory directory;
+    const std::string path = directory.file("pipe");
+    REQUIRE(::mkfifo(path.c_str(), 0600) == 0);
+    const std::string text(300'000, 'x');  // more than a pipe holds
+    CHECK(in_child([&] {
+              std::string seen;
+              std::thread reader([&] { seen = content(path); });
+              const bool written = write_text_file(path, text);
+              reader.join();
+              return written && seen == text ? "whole" : "not whole";
+          }) == "whole");
+    CHECK(directory.names() == Names{"pipe"});
+}
+
+TEST_CASE("A named pipe whose reader goes away gives false where that signal is ignored") {
+    const TemporaryDirectory directory;
+    const std::string path = directory.file("pipe");
+    REQUIRE(::mkfifo(path.c_str(), 0600) == 0);
+    const auto write_to_hasty_reader = [&path] {
+        std::thread reader([&path] {
+            const int file = open_file(path, O_RDONLY);
+            static_cast<void>(read_some(file));
+            ::close(file);
+        });
+        const bool written = write_text_file(path, std::string(300'000, 'x'));
+        reader.join();
+        return written ? "written" : "refused";
+    };
+    CHECK(in_child([&] {
+              static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
+              return write_to_hasty_reader();
+          }) == "refused");
+    CHECK(in_child(write_to_hasty_reader) == "signal " + std::to_string(SIGPIPE));
     CHECK(directory.names() == Names{"pipe"});
 }
 

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <filesystem>
+#include <iterator>
 #include <string>
 #include <sys/stat.h>
 #include <thread>
@@ -170,7 +171,7 @@ TEST_CASE("A file name of 255 bytes can be written") {
     CHECK(content(path) == "new");
 }
 
-TEST_CASE("The longest path that the system takes can be written") {
+TEST_CASE("The longest path that the system takes can be written, and none that is longer") {
     const TemporaryDirectory directory;
     constexpr std::size_t longest = 4095;
     std::string path = directory.path().string();
@@ -181,6 +182,9 @@ TEST_CASE("The longest path that the system takes can be written") {
     REQUIRE(path.size() == longest);
     CHECK(write_text_file(path, "text"));
     CHECK(content(path) == "text");
+    const std::filesystem::path folder = std::filesystem::path{path}.parent_path();
+    CHECK_FALSE(write_text_file(path + 'f', "text"));
+    CHECK(std::distance(std::filesystem::directory_iterator(folder), {}) == 1);
 }
 
 TEST_CASE("A reader sees an old text or a new one and never a part") {

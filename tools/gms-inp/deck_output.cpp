@@ -20,6 +20,12 @@ void refuse_same_file(const std::string& input, const std::string& output) {
                              output);
 }
 
+void refuse_no_file(const std::string& path) {
+    std::error_code error;
+    if (std::filesystem::is_other(path, error))
+        throw std::runtime_error("cannot edit what is no regular file in place: " + path);
+}
+
 void write_file(const std::string& path, std::string_view text) {
     if (nurl::core::fs::write_text_file(path, text)) return;
     throw std::runtime_error("cannot write " + path);

@@ -17,8 +17,9 @@ namespace nurl::input::gamess {
 /// `SCFTYP=RHF`, `RUNTYP=ENERGY`, `ICHARG=0` and `MULT=1`, and an empty `$DATA` of point group C1.
 ///
 /// Setters replace, adders append; both return the builder, so calls chain. Nothing is validated
-/// and nothing but memory exhaustion throws, except `write_file`. A builder is a plain value: it
-/// may be copied, rendered, changed and rendered again.
+/// and nothing but memory exhaustion throws, except `write_file`. A call that throws leaves the
+/// document as it was. A builder is a plain value: it may be copied, rendered, changed and rendered
+/// again; copying one over another goes member by member and may stop half-way.
 ///
 ///     const std::string deck = InputBuilder{}
 ///                                  .set_title("Water")

@@ -26,6 +26,10 @@ namespace nurl::input::gamess {
 /// one leading `$` of a group name are dropped. Values keep their case except where a record holds
 /// text in upper case.
 ///
+/// An edit is done as a whole or not at all: when it throws, for its content or for want of memory,
+/// the document is as it was, without the group that the edit would have added. Only copying one
+/// editor over another may stop half-way, since that goes member by member as for any plain value.
+///
 /// Editing and listing one group is linear in the size of that group and in the number of groups.
 /// There is no undo. `const` members may be called concurrently; a change needs exclusive access.
 ///

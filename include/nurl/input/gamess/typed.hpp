@@ -6,6 +6,9 @@
 /// free text as raw lines. List members gather all entries of their keyword in the order met,
 /// whatever index they are written with, and are written as one entry.
 ///
+/// Functions throw only when memory runs out; the document or list that they were to change is then
+/// as it was.
+///
 ///     if (auto search = typed::get_statpt_section(deck)) {
 ///         search->nstep = 100;
 ///         typed::set_statpt_section(deck, *search);

@@ -116,9 +116,9 @@ struct Item {
 /// `$` of a group name are dropped. `KEY` and `KEY(1)` are one keyword.
 ///
 /// Every edit is the smallest change of bytes that does it, checks by reading back that it did,
-/// and costs one pass over the text. When it throws, the text is as it was. `const` members may be
-/// called concurrently; a change needs exclusive access and invalidates references, views and
-/// spans.
+/// and costs one pass over the text. When it throws, also for want of memory, the deck is as it
+/// was; copying another deck over it keeps to that too. `const` members may be called concurrently;
+/// a change needs exclusive access and invalidates references, views and spans.
 ///
 ///     source::Deck deck{" $CONTRL SCFTYP=RHF  MULT=1 $END  ! closed shell\n"};
 ///     deck.set_keyword("CONTRL", "SCFTYP", "UHF");
@@ -130,6 +130,16 @@ public:
     /// Linear in the length of the text, whatever is in it. The first deck of the process that has
     /// a group loads the schema. Throws only on memory exhaustion.
     NURL_GMS_INP_EXPORT explicit Deck(std::string text);
+
+    /// Copies text and index.
+    Deck(const Deck&) = default;
+    /// Takes text and index over. The other deck may then be given a new value or be let go.
+    Deck(Deck&&) noexcept = default;
+    /// Replaces text and index together, so that neither is without the other when memory runs out.
+    Deck& operator=(const Deck& other) { return *this = Deck{other}; }
+    /// As the constructor that takes a deck over.
+    Deck& operator=(Deck&&) noexcept = default;
+    ~Deck() = default;
 
     /// The text as edited so far.
     [[nodiscard]] NURL_GMS_INP_EXPORT const std::string& text() const& noexcept;

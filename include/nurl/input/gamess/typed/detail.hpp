@@ -3,7 +3,8 @@
 /// further groups in the same manner.
 ///
 /// Nothing here reports errors or throws for content: a parser that fails returns false and leaves
-/// its output as it was, a writer skips what is absent.
+/// its output as it was, a writer skips what is absent. When memory runs out, lists and documents
+/// are as they were.
 #pragma once
 
 #include <cstdint>

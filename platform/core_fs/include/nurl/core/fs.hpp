@@ -16,11 +16,16 @@ namespace nurl::core::fs {
 /// the umask. Symbolic links are followed, to a file that does not exist yet too; further hard
 /// links to the old file keep the old text.
 ///
+/// A process that is killed meanwhile leaves the old text or the new one too, but may leave the
+/// temporary file, which is named `.nurl-*.tmp`.
+///
 /// A target that is not a regular file, such as a pipe or a terminal, is written directly, and so
 /// is an open descriptor of this process named as `/dev/stdout`, `/dev/fd/N` or `/proc/self/fd/N`,
-/// whatever is behind it. A pipe without a reader raises SIGPIPE, as any write to it does.
+/// whatever is behind it. A named pipe is waited for until somebody opens it for reading; a pipe
+/// whose readers have gone raises SIGPIPE, as any write to it does.
 ///
-/// @param path  absolute, or relative to the current directory; its directory must exist
+/// @param path  absolute, or relative to the current directory, and not longer than the system
+///              takes; its directory must exist
 /// @param text  the bytes to write, NUL included; may be empty
 /// @return      true when the whole text is written and flushed. False when anything failed, for
 ///              instance when the path is empty, contains a NUL byte, or names a directory or a

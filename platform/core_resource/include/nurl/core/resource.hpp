@@ -31,6 +31,12 @@ namespace nurl::core::resource {
 /// wins over the earlier candidate. A root that cannot be told, such as a current directory that
 /// was removed, is left out.
 ///
+/// A process of root takes what the search finds only where nobody else could have put it: the file
+/// and the directories above it must belong to root and not be writable by others, nor by a group
+/// other than root's; directories with the sticky bit, such as /tmp, may be among those above.
+/// Otherwise root, working in somebody's folder, would read what that user left there. The explicit
+/// path and the variable are the caller's own words and are taken as they are.
+///
 /// @param env_var_name         the variable; null for none
 /// @param relative_candidates  paths below a root, such as "share/app/data.txt"
 /// @param explicit_path        empty for none
