@@ -15,13 +15,13 @@ build_in() {
     {
         cmake --preset release -S "$1" -B "$1/out" -DNURL_GMS_INP_BUILD_TESTS=OFF &&
             cmake --build "$1/out" --parallel "$(nproc)" &&
-            DESTDIR="$1/root" cmake --install "$1/out" --prefix /usr
+            DESTDIR="$1/installed" cmake --install "$1/out" --prefix /usr
     } >"$work/log" 2>&1 </dev/null || { cat "$work/log" >&2; exit 1; }
 }
 
 build_in "$work/one"
 build_in "$work/another/folder"
-diff -r "$work/one/root" "$work/another/folder/root"
-echo "reproducible: $(find "$work/one/root" -type f | wc -l) files are the same"
+diff -r "$work/one/installed" "$work/another/folder/installed"
+echo "reproducible: $(find "$work/one/installed" -type f | wc -l) files are the same"
 python3 -B scripts/checks/hardening.py --optimised \
-    "$work"/one/root/usr/lib/*/libnurl_gms_inp.so "$work/one/root/usr/bin/gms-inp"
+    "$work"/one/installed/usr/lib/*/libnurl_gms_inp.so "$work/one/installed/usr/bin/gms-inp"

@@ -2,16 +2,23 @@
 # Installs the Debian packages that are missing for building and testing, and asks for nothing.
 #
 #   scripts/setup.sh            the compiler, CMake, and what the tool and the tests use
+#   scripts/setup.sh --locales  also what scripts/locale.sh makes locales of
 #   scripts/setup.sh --bench    also what the benchmarks use
+#   scripts/setup.sh --growth   also what counting instructions uses
 #   scripts/setup.sh --checks   also what scripts/lint.sh and the Clang presets use
 set -euo pipefail
 
 packages=(g++ cmake ninja-build pkg-config python3 python3-yaml
     doctest-dev librapidcheck-dev libcli11-dev nlohmann-json3-dev)
 if [[ ${1:-} == --checks ]]; then
-    packages+=(clang-14 clang-format-14 clang-tidy-14 libclang-rt-14-dev)
+    packages+=(clang-14 clang-format-14 clang-tidy-14 libclang-rt-14-dev abigail-tools
+        xz-utils)
+elif [[ ${1:-} == --locales ]]; then
+    packages+=(locales)
 elif [[ ${1:-} == --bench ]]; then
     packages+=(libbenchmark-dev)
+elif [[ ${1:-} == --growth ]]; then
+    packages+=(valgrind)
 fi
 
 if ! command -v dpkg-query >/dev/null; then
