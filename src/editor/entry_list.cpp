@@ -8,8 +8,9 @@
 namespace nurl::input::gamess::detail {
 
 void upsert_entry(std::vector<KeyValue>& entries, std::string_view key, std::string_view value) {
+    const std::string_view name = editor_trim(key);
     const auto hit = std::ranges::find_if(
-        entries, [key](const KeyValue& entry) { return same_editor_key(entry.key, key); });
+        entries, [name](const KeyValue& entry) { return same_editor_key(entry.key, name); });
     if (hit == entries.end())
         entries.push_back({std::string{key}, std::string{value}});
     else
@@ -17,8 +18,9 @@ void upsert_entry(std::vector<KeyValue>& entries, std::string_view key, std::str
 }
 
 bool erase_entries(std::vector<KeyValue>& entries, std::string_view key) noexcept {
+    const std::string_view name = editor_trim(key);
     const auto removed = std::erase_if(
-        entries, [key](const KeyValue& entry) { return same_editor_key(entry.key, key); });
+        entries, [name](const KeyValue& entry) { return same_editor_key(entry.key, name); });
     return removed > 0;
 }
 

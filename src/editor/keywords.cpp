@@ -115,8 +115,10 @@ bool InputEditor::remove_keyword(std::string_view section, std::string_view key)
 std::optional<std::string> InputEditor::get_keyword(std::string_view section,
                                                     std::string_view key) const {
     std::vector<KeyValue> entries = list_keywords(section);
-    const auto hit = std::ranges::find_if(
-        entries, [key](const KeyValue& entry) { return detail::same_editor_key(entry.key, key); });
+    const std::string_view name = detail::editor_trim(key);
+    const auto hit = std::ranges::find_if(entries, [name](const KeyValue& entry) {
+        return detail::same_editor_key(entry.key, name);
+    });
     if (hit == entries.end()) return std::nullopt;
     return std::move(hit->value);
 }

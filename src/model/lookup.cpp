@@ -2,6 +2,7 @@
 #include <utility>
 
 #include "model/names.hpp"
+#include "model/text_view.hpp"
 #include "nurl/input/gamess/model.hpp"
 
 namespace nurl::input::gamess {
@@ -18,8 +19,9 @@ const NamedSection* find_in(const std::vector<NamedSection>& list, std::string_v
 }  // namespace
 
 const NamedSection* GamessInput::find_section(std::string_view name) const noexcept {
-    if (const NamedSection* const read = find_in(sections, name)) return read;
-    return find_in(extra_sections, name);
+    const std::string_view wanted = detail::trim_view(name);  // once, not for every group
+    if (const NamedSection* const read = find_in(sections, wanted)) return read;
+    return find_in(extra_sections, wanted);
 }
 
 NamedSection* GamessInput::find_section(std::string_view name) noexcept {

@@ -4,8 +4,10 @@
 #include "schema/loader.hpp"
 
 #include <array>
+#include <exception>
 #include <fstream>
 #include <ios>
+#include <new>
 #include <string_view>
 
 #include "model/text_view.hpp"
@@ -171,12 +173,14 @@ Table read_schema(std::istream& stream, Choices* choices) {
     Table table = built_in_sections();
     SchemaReader reader(table, choices);
     std::string line;
-    // Without exceptions, a line that there is no memory for would look like the end of the file.
-    stream.exceptions(std::ios::badbit);
     try {
+        // Otherwise a line that there is no memory for would look like the end of the file.
+        stream.exceptions(std::ios::badbit);
         if (std::getline(stream, line)) reader.add(detail::without_byte_order_mark(line));
         while (std::getline(stream, line)) reader.add(line);
-    } catch (const std::ios_base::failure&) {
+    } catch (const std::bad_alloc&) {
+        throw;
+    } catch (const std::exception&) {
         return table;
     }
     return table;

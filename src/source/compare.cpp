@@ -27,7 +27,7 @@ struct Mark {
 /// The groups that GAMESS sees in a deck.
 class VisibleGroups {
 public:
-    explicit VisibleGroups(const Deck& deck) : deck_(deck) {
+    explicit VisibleGroups(const Deck& deck) : deck_(deck), rules_(data_rules(deck)) {
         for (const Group& group : deck.sections()) {
             if (!group.visible) continue;
             const auto [place, is_new] = copies_.try_emplace(group.name);
@@ -38,6 +38,8 @@ public:
     }
 
     [[nodiscard]] const Deck& deck() const noexcept { return deck_; }
+
+    [[nodiscard]] const DataRules& rules() const noexcept { return rules_; }
 
     /// The names in the order of the text, each once.
     [[nodiscard]] const std::vector<std::string>& names() const noexcept { return names_; }
@@ -70,6 +72,7 @@ public:
 
 private:
     const Deck& deck_;
+    DataRules rules_;
     std::vector<std::string> names_;
     std::unordered_map<std::string, Groups> copies_;
     std::vector<Span> begins_;  // the headers
@@ -140,7 +143,7 @@ private:
         // GAMESS finds a group of fixed columns in capital letters only.
         if (a.kind == GroupKind::FixedColumns)
             report_line(a, a_.header(a.header), b_.header(b.header));
-        compare_cards({a_.deck(), a}, {b_.deck(), b}, differences_);
+        compare_cards({a_.deck(), a, a_.rules()}, {b_.deck(), b, b_.rules()}, differences_);
         report_line(a, a_.end(a), b_.end(b));
     }
 

@@ -25,7 +25,7 @@ public:
     explicit CardList(const Copy& copy)
         : deck_(copy.deck), group_(copy.group), end_line_begin_(begin_of_end_line(copy)) {
         if (group_.kind == GroupKind::Data) {
-            cards_ = data_cards(deck_, group_);
+            cards_ = data_cards(deck_, group_, copy.rules);
             return;
         }
         const bool is_text = group_.kind == GroupKind::FixedColumns;

@@ -8,6 +8,7 @@
 #include "nurl/input/gamess/source/compare.hpp"
 #include "nurl/input/gamess/source/deck.hpp"
 #include "source/compare_words.hpp"
+#include "source/data_layout.hpp"
 
 namespace nurl::input::gamess::source {
 
@@ -25,6 +26,7 @@ struct ComparedCard {
 struct Copy {
     const Deck& deck;
     const Group& group;
+    const DataRules& rules;  ///< of the deck
 };
 
 /// Appends what two copies of a group without keywords say differently, in their order. Linear,

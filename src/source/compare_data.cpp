@@ -29,8 +29,8 @@ ComparedWords without_equals(const ComparedWords& words) {
 
 class DataCards {
 public:
-    DataCards(const Deck& deck, const Group& group)
-        : deck_(deck), style_(coordinate_style(deck)), layout_(read_data_layout(deck, group)) {}
+    DataCards(const Deck& deck, const Group& group, const DataRules& rules)
+        : deck_(deck), style_(rules.style), layout_(read_data_layout(deck, group, rules)) {}
 
     std::vector<ComparedCard> run() {
         add_title();
@@ -83,8 +83,8 @@ private:
 
 }  // namespace
 
-std::vector<ComparedCard> data_cards(const Deck& deck, const Group& group) {
-    return DataCards(deck, group).run();
+std::vector<ComparedCard> data_cards(const Deck& deck, const Group& group, const DataRules& rules) {
+    return DataCards(deck, group, rules).run();
 }
 
 }  // namespace nurl::input::gamess::source

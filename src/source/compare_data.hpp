@@ -15,6 +15,7 @@ namespace nurl::input::gamess::source {
 /// Blank cards that GAMESS passes over are left out: those between atoms where a `$BASIS` gives the
 /// basis set, and those around the values of a Z-matrix. The one that closes a basis set is a
 /// "basis" card.
-[[nodiscard]] std::vector<ComparedCard> data_cards(const Deck& deck, const Group& group);
+[[nodiscard]] std::vector<ComparedCard> data_cards(const Deck& deck, const Group& group,
+                                                   const DataRules& rules);
 
 }  // namespace nurl::input::gamess::source

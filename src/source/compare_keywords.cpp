@@ -72,6 +72,7 @@ public:
         : a_(a.deck),
           b_(b.deck),
           name_(a.groups.front().name),
+          spec_(schema::find_section(name_)),
           merged_a_(merge_copies(a.deck, a.groups)),
           merged_b_(merge_copies(b.deck, b.groups)),
           differences_(differences) {}
@@ -135,8 +136,9 @@ private:
 
     /// File names and the like may be read with their letter case.
     [[nodiscard]] WordRule rule_of(const std::string& key) const {
-        const schema::EntrySpec* const entry = schema::find_entry(name_, key);
-        const bool is_text = entry != nullptr && entry->value_type == "text";
+        if (spec_ == nullptr) return WordRule::ByValue;
+        const auto entry = spec_->entries.find(schema::normalize_entry_name(key));
+        const bool is_text = entry != spec_->entries.end() && entry->second.value_type == "text";
         return is_text ? WordRule::Exact : WordRule::ByValue;
     }
 
@@ -179,6 +181,7 @@ private:
     const Deck& a_;
     const Deck& b_;
     std::string name_;
+    const schema::SectionSpec* spec_;  // null for a group that the schema does not know
     MergedGroup merged_a_;
     MergedGroup merged_b_;
     std::vector<Difference>& differences_;

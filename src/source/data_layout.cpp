@@ -63,12 +63,12 @@ bool is_second_axis_card(const Deck& deck, const Item& card) {
 
 class LayoutReader {
 public:
-    LayoutReader(const Deck& deck, const Group& data) : deck_(deck) {
+    LayoutReader(const Deck& deck, const Group& data, const DataRules& rules) : deck_(deck) {
         // The two groups beside $DATA hold a basis set of their own under Cartesian atoms.
         const bool is_molecule = data.name == "DATA";
-        if (is_molecule) style_ = coordinate_style(deck);
+        if (is_molecule) style_ = rules.style;
         has_basis_ =
-            !is_molecule || (has_inline_basis(deck) && style_ != CoordinateStyle::ZMatrix &&
+            !is_molecule || (rules.has_inline_basis && style_ != CoordinateStyle::ZMatrix &&
                              style_ != CoordinateStyle::MopacStyle);
     }
 
@@ -178,8 +178,10 @@ bool is_c1(const Deck& deck, const Item& point_group) {
     return !point_group.words.empty() && is_word(deck, point_group.words.front(), "C1");
 }
 
-DataLayout read_data_layout(const Deck& deck, const Group& data) {
-    return LayoutReader(deck, data).run(deck.items(data));
+DataRules data_rules(const Deck& deck) { return {coordinate_style(deck), has_inline_basis(deck)}; }
+
+DataLayout read_data_layout(const Deck& deck, const Group& data, const DataRules& rules) {
+    return LayoutReader(deck, data, rules).run(deck.items(data));
 }
 
 }  // namespace nurl::input::gamess::source

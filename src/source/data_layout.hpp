@@ -52,12 +52,23 @@ struct DataLayout {
 /// Whether the words of a point group card name C1. Lower case counts.
 [[nodiscard]] bool is_c1(const Deck& deck, const Item& point_group);
 
-/// Takes a molecule group apart. Linear in the length of the deck; any text will do.
+/// What other groups say of how a deck has its molecule read.
+struct DataRules {
+    CoordinateStyle style = CoordinateStyle::Cartesian;  ///< as `coordinate_style` gives it
+    bool has_inline_basis = true;                        ///< as the function of that name gives it
+};
+
+/// The rules of a deck. Linear in the number of groups.
+[[nodiscard]] DataRules data_rules(const Deck& deck);
+
+/// Takes a molecule group apart. Linear in the length of the group; any text will do.
 ///
-/// The atoms of `$DATA` are laid out as `coordinate_style` says, those of `$DATAS` and `$DATAL` are
-/// Cartesian with their basis set under each. Source: GAMESS manual, input description, $DATA.
+/// The atoms of `$DATA` are laid out as the rules of the deck say, those of `$DATAS` and `$DATAL`
+/// are Cartesian with their basis set under each. Source: GAMESS manual, input description, $DATA.
 ///
-/// @param data  a group of the kind `GroupKind::Data`
-[[nodiscard]] DataLayout read_data_layout(const Deck& deck, const Group& data);
+/// @param data   a group of the kind `GroupKind::Data`
+/// @param rules  those of the deck
+[[nodiscard]] DataLayout read_data_layout(const Deck& deck, const Group& data,
+                                          const DataRules& rules);
 
 }  // namespace nurl::input::gamess::source

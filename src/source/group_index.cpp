@@ -105,11 +105,16 @@ private:
     }
 
     void begin_group(std::string name, bool visible, Span header) {
-        line_ += count_line_ends(text_, {counted_, header.begin});
+        if (const std::size_t ends = count_line_ends(text_, {counted_, header.begin}); ends > 0) {
+            line_ += ends;
+            line_begin_ = line_begin(text_, header.begin);
+        }
         counted_ = header.begin;
+        const std::size_t column = header.begin - line_begin_ + 1;
         const GroupKind kind = kind_of_group(name);
         const std::size_t occurrence = ++occurrences_[name + (visible ? '+' : '-')];
-        groups_.push_back({std::move(name), occurrence, kind, visible, line_, header, {}, {}});
+        groups_.push_back(
+            {std::move(name), occurrence, kind, visible, line_, column, header, {}, {}});
         open_ = true;
         comment_seen_ = header.end;
         in_comment_ = false;
@@ -139,6 +144,7 @@ private:
     std::size_t seen_ = 0;          // the last hit
     std::size_t counted_ = 0;       // up to here line ends were counted
     std::size_t line_ = 1;          // the line of counted_
+    std::size_t line_begin_ = 0;    // where that line begins
 };
 
 }  // namespace

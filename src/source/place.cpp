@@ -7,7 +7,7 @@ namespace nurl::input::gamess::source {
 PlaceCounter::PlaceCounter(std::string_view text, const Group& group) noexcept
     : text_(text),
       seen_(group.header.begin),
-      line_begin_(line_begin(text, group.header.begin)),
+      line_begin_(group.header.begin - (group.column - 1)),
       line_(group.line) {}
 
 Position PlaceCounter::at(std::size_t offset) noexcept {

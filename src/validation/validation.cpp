@@ -41,10 +41,11 @@ void check_raw_text(const NamedSection& section, std::vector<Issue>& issues) {
 }
 
 /// Checks the keywords that stand in raw lines.
-void check_hidden_keywords(const NamedSection& section, std::vector<Issue>& issues) {
-    for (const std::string& line : section.raw_lines) {
+void check_hidden_keywords(std::string_view section, const std::vector<std::string>& raw_lines,
+                           std::vector<Issue>& issues) {
+    for (const std::string& line : raw_lines) {
         detail::PairScanner scanner(line);
-        while (const auto pair = scanner.next()) check_keyword(section.name, pair->key, issues);
+        while (const auto pair = scanner.next()) check_keyword(section, pair->key, issues);
     }
 }
 
@@ -58,12 +59,13 @@ void check_section(const NamedSection& section, const Options& options,
         issues.push_back({Severity::Info, std::move(name), "", std::move(message)});
         return;
     }
-    if (options.report_unknown_keywords) check_keywords(section.name, section.entries, issues);
+    const std::string_view name = detail::trim_view(section.name);  // once, not for every keyword
+    if (options.report_unknown_keywords) check_keywords(name, section.entries, issues);
     if (options.report_raw_text_in_structured &&
         spec->parse_mode == schema::SectionParseMode::Structured)
         check_raw_text(section, issues);
     if (options.report_unknown_keywords && spec->parse_mode != schema::SectionParseMode::Raw)
-        check_hidden_keywords(section, issues);
+        check_hidden_keywords(name, section.raw_lines, issues);
 }
 
 /// Checks what the structured records could not take into a member.

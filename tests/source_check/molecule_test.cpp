@@ -49,11 +49,14 @@ TEST_CASE("A blank card behind C1 is found and removed") {
                {{"none", with_basis("C1\n" + oxygen), {}},
                 {"one", with_basis("C1\n\n" + oxygen), {"5:1 " + finding}},
                 {"two", with_basis("C1\n \n\n" + oxygen), {"5:1 " + finding}},
+                {"two in a line", with_basis("C1\n;;\n" + oxygen), {"5:1 " + finding}},
                 {"a comment", with_basis("C1\n! x\n" + oxygen), {}},
                 {"between atoms", with_basis("C1\n" + oxygen + "\n" + oxygen), {}},
                 {"behind another point group", with_basis("CS\n\n" + oxygen), {}},
                 {"no atoms", with_basis("C1\n\n"), {}}});
     CHECK(fixed(with_basis("C1\n \n\n" + oxygen), "blank-card-after-c1") ==
+          with_basis("C1\n" + oxygen));
+    CHECK(fixed(with_basis("C1\n;;\n" + oxygen), "blank-card-after-c1") ==
           with_basis("C1\n" + oxygen));
 }
 

@@ -19,7 +19,7 @@ Lines shown(const Deck& deck) {
         return nullptr;
     }();
     REQUIRE(group != nullptr);
-    const DataLayout layout = read_data_layout(deck, *group);
+    const DataLayout layout = read_data_layout(deck, *group, data_rules(deck));
     Lines lines;
     const auto add = [&lines, &deck](const std::string& part, const Item& card) {
         lines.push_back(part + ": " + std::string{deck.text(card.span)});

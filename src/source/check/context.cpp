@@ -71,7 +71,7 @@ void Context::add_keyword_group(const Group& group) {
 }
 
 void Context::read_molecule() {
-    layout_ = read_data_layout(deck_, *data_);
+    layout_ = read_data_layout(deck_, *data_, {style_, has_inline_basis(deck_)});
     atoms_.reserve(layout_.atoms.size());
     for (const AtomCards& cards : layout_.atoms)
         atoms_.push_back(read_atom(deck_, cards.card, style_));

@@ -54,7 +54,8 @@ void check_comment(const Deck& deck, const KeywordGroup& group, Span comment, Fi
     while (const auto pair = scanner.next()) {
         const Span span{comment.begin + pair->begin, comment.begin + pair->end};
         findings.add(span, "Reading the deck as a document turns " + shortened(pair->key) +
-                               " of $" + group.group->name + " on, which stands in a comment");
+                               " of $" + shortened(group.group->name) +
+                               " on, which stands in a comment");
     }
 }
 

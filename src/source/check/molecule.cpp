@@ -106,9 +106,12 @@ void find_blank_card_after_c1(const Context& context, Findings& findings) {
     if (!layout.point_group || layout.atoms.empty() || !is_c1(deck, *layout.point_group)) return;
     const std::size_t first_atom = layout.atoms.front().card.span.begin;
     std::vector<Edit> fix;
+    std::size_t removed = 0;  // up to here
     for (const Item& card : layout.rest) {
         if (card.span.begin > first_atom) break;
-        fix.push_back({{card.span.begin, next_line(deck.text(), card.span.end)}, ""});
+        if (card.span.begin < removed) continue;  // on a line with the one before
+        removed = next_line(deck.text(), card.span.end);
+        fix.push_back({{card.span.begin, removed}, ""});
     }
     if (fix.empty()) return;
     const Span blank = layout.rest.front().span;

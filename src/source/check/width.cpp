@@ -33,8 +33,9 @@ public:
             title_ = {title, line_end(text, title)};
         }
         const std::size_t end = std::max(group_.body.end, group_.terminator.end);
+        const std::string_view up_to_end = text.substr(0, end);
         for (std::size_t at = line_begin(text, group_.header.begin); at < end;) {
-            const std::size_t stop = std::min(text.find('\n', at), end);
+            const std::size_t stop = std::min(up_to_end.find('\n', at), end);
             if (stop - at > columns_read) check_lines({at, stop});
             at = stop + 1;
         }

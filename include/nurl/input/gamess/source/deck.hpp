@@ -69,10 +69,11 @@ struct Group {
     GroupKind kind = GroupKind::Keywords;  ///< how its body is read
     bool visible = true;   ///< GAMESS finds it: its `$` stands in column 2 and column 1 is a space
     std::size_t line = 1;  ///< line of the header, counted from 1
-    Span header;           ///< the `$` and the name
-    Span body;             ///< what stands between name and terminator
-    Span terminator;       ///< the `$END`; empty when the group has none and ends at the next
-                           ///< header or with the text
+    std::size_t column = 1;  ///< column of its `$`, counted in bytes from 1
+    Span header;             ///< the `$` and the name
+    Span body;               ///< what stands between name and terminator
+    Span terminator;         ///< the `$END`; empty when the group has none and ends at the next
+                             ///< header or with the text
 
     bool operator==(const Group&) const = default;
 };
