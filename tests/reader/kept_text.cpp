@@ -3,13 +3,12 @@
 #include "reader/kept_text.hpp"
 
 #include <algorithm>
-#include <charconv>
 #include <cstddef>
-#include <cstdint>
 #include <optional>
 #include <unordered_map>
 
 #include "nurl/core/text.hpp"
+#include "second_reading/plain_text.hpp"
 
 namespace nurl::test {
 
@@ -99,47 +98,14 @@ void compare_group(const TextGroup& group, const NamedSection& section, Lines& f
     faults.insert(faults.end(), differences.begin(), differences.end());
 }
 
-/// A number with an optional sign, decimal digits, a point and an exponent after E or D.
-std::optional<double> number(const std::string& word) {
-    std::string text = to_upper_copy(word);
-    std::ranges::replace(text, 'D', 'E');
-    if (text.starts_with('+')) text.erase(0, 1);
-    if (text.find_first_not_of("0123456789.+-E") != std::string::npos) return std::nullopt;
-    if (text.starts_with('+')) return std::nullopt;
-    double value = 0.0;
-    const char* const end = text.data() + text.size();
-    const auto [stop, error] = std::from_chars(text.data(), end, value);
-    if (stop != end || error != std::errc{}) return std::nullopt;
-    return value;
-}
-
-bool is_index(std::string word) {
-    if (word.starts_with('+') && word.size() > 1 && word[1] != '-') word.erase(0, 1);
-    std::int32_t value = 0;
-    const char* const end = word.data() + word.size();
-    const auto [stop, error] = std::from_chars(word.data(), end, value);
-    return stop == end && error == std::errc{};
-}
-
-Lines words_of(const std::string& line) {
-    Lines words;
-    std::size_t begin = line.find_first_not_of(blanks);
-    while (begin != std::string::npos) {
-        const std::size_t end = std::min(line.find_first_of(blanks, begin), line.size());
-        words.push_back(line.substr(begin, end - begin));
-        begin = line.find_first_not_of(blanks, end);
-    }
-    return words;
-}
-
 std::optional<AtomRecord> atom_of(const std::string& line) {
-    Lines words = words_of(line);
-    if (words.size() >= 5 && is_index(words[0])) words.erase(words.begin());
+    Lines words = plain::words_of(line);
+    if (words.size() >= 5 && plain::integer_of(words[0])) words.erase(words.begin());
     if (words.size() < 5) return std::nullopt;
-    const auto charge = number(words[1]);
-    const auto x = number(words[2]);
-    const auto y = number(words[3]);
-    const auto z = number(words[4]);
+    const auto charge = plain::real_of(words[1]);
+    const auto x = plain::real_of(words[2]);
+    const auto y = plain::real_of(words[3]);
+    const auto z = plain::real_of(words[4]);
     if (!charge || !x || !y || !z) return std::nullopt;
     return AtomRecord{words[0], charge, *x, *y, *z};
 }

@@ -61,3 +61,10 @@ TEST_CASE("A document that lacks a part of the molecule is found out") {
     changed.data_lines.pop_back();
     CHECK(lost_text(text, changed) == Lines{"the lines of $DATA differ"});
 }
+
+TEST_CASE("A coordinate too small for a number in memory is a zero to both readings") {
+    const std::string tiny = "$DATA\nTitle\nC1\nH 1.0 0.0 0.0 1e-999\nH 1.0 0.0 0.0 1e999\n $END\n";
+    const GamessInput deck = read_silently(tiny);
+    CHECK(deck.atoms.size() == 1);
+    CHECK(lost_text(tiny, deck) == Lines{});
+}
