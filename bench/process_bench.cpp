@@ -1,5 +1,5 @@
 // Whole runs of gms-inp, from starting the process to its end. The floors do what no run can do
-// without: they read the file, write it as safely, and load the schema.
+// without, and where they handle a large file they are processes too (process_floor.cpp).
 #include <array>
 #include <cstdint>
 #include <cstdlib>
@@ -9,7 +9,6 @@
 #include <spawn.h>
 #include <stdexcept>
 #include <string>
-#include <string_view>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <vector>
@@ -17,7 +16,6 @@
 #include <benchmark/benchmark.h>
 
 #include "decks.hpp"
-#include "lines.hpp"
 #include "schema/loader.hpp"
 
 namespace schema = nurl::input::gamess::schema;
@@ -25,6 +23,8 @@ namespace schema = nurl::input::gamess::schema;
 namespace {
 
 constexpr const char* schema_file = NURL_BENCH_SCHEMA;
+constexpr const char* tool = NURL_BENCH_TOOL;
+constexpr const char* floor_program = NURL_BENCH_PROCESS_FLOOR;
 constexpr std::size_t large = 20'000'000;
 constexpr std::size_t atom_bytes = 65;
 
@@ -56,10 +56,10 @@ const Workplace& workplace() {
     return place;
 }
 
-/// Runs gms-inp without showing what it prints. Throws when it ends with a status above `worst`.
-void run_tool(std::vector<std::string> arguments, int worst = 0) {
+/// Runs a program without showing what it prints. Throws when it ends with a status above `worst`.
+void run(const char* program, std::vector<std::string> arguments, int worst = 0) {
     std::vector<char*> pointers;
-    arguments.insert(arguments.begin(), NURL_BENCH_TOOL);
+    arguments.insert(arguments.begin(), program);
     for (std::string& argument : arguments) pointers.push_back(argument.data());
     pointers.push_back(nullptr);
     posix_spawn_file_actions_t actions;
@@ -72,68 +72,39 @@ void run_tool(std::vector<std::string> arguments, int worst = 0) {
     int status = 0;
     if (failure != 0 || waitpid(process, &status, 0) != process || !WIFEXITED(status) ||
         WEXITSTATUS(status) > worst)
-        throw std::runtime_error("gms-inp did not run as it should");
-}
-
-std::string read_file(const std::string& path) {
-    std::string text(std::filesystem::file_size(path), '\0');
-    std::ifstream(path).read(text.data(), static_cast<std::streamsize>(text.size()));
-    return text;
-}
-
-void flush_and_close(int file) {
-    ::fsync(file);
-    ::close(file);
-}
-
-/// Writes beside the target, flushes, puts the new file in its place, and flushes the folder.
-void write_file_safely(const std::string& path, std::string_view text) {
-    const std::string beside = path + ".new";
-    const int file = ::open(beside.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
-    while (!text.empty()) {
-        const auto written = ::write(file, text.data(), text.size());
-        if (written <= 0) throw std::runtime_error("cannot write " + beside);
-        text.remove_prefix(static_cast<std::size_t>(written));
-    }
-    flush_and_close(file);
-    std::filesystem::rename(beside, path);
-    flush_and_close(::open(std::filesystem::path(path).parent_path().c_str(), O_RDONLY));
+        throw std::runtime_error(std::string{program} + " did not run as it should");
 }
 
 void check_small_deck_process(benchmark::State& state) {
-    for (auto run : state) run_tool({"check", workplace().path("small.inp")});
+    for (auto _ : state) run(tool, {"check", workplace().path("small.inp")});
 }
 
 void check_small_deck_process_floor(benchmark::State& state) {
-    for (auto run : state) {
-        run_tool({"--version"});
+    for (auto _ : state) {
+        run(tool, {"--version"});
         benchmark::DoNotOptimize(schema::load_schema(schema_file));
     }
 }
 
 void set_in_large_deck_process(benchmark::State& state) {
-    for (auto run : state)
-        run_tool({"set", workplace().path("orbitals.inp"), "CONTRL.SCFTYP=UHF", "-o",
-                  workplace().path("edited.inp")});
+    for (auto _ : state)
+        run(tool, {"set", workplace().path("orbitals.inp"), "CONTRL.SCFTYP=UHF", "-o",
+                   workplace().path("edited.inp")});
 }
 
 void set_in_large_deck_process_floor(benchmark::State& state) {
-    for (auto run : state)
-        write_file_safely(workplace().path("copied.inp"),
-                          read_file(workplace().path("orbitals.inp")));
+    for (auto _ : state)
+        run(floor_program,
+            {"set", workplace().path("orbitals.inp"), workplace().path("copied.inp")});
 }
 
 void check_large(benchmark::State& state, const std::string& deck) {
     constexpr int with_findings = 1;
-    for (auto run : state) run_tool({"check", workplace().path(deck)}, with_findings);
+    for (auto _ : state) run(tool, {"check", workplace().path(deck)}, with_findings);
 }
 
 void check_large_floor(benchmark::State& state, const std::string& deck) {
-    for (auto run : state) {
-        const std::string text = read_file(workplace().path(deck));
-        benchmark::DoNotOptimize(nurl::bench::count_lines(text));
-        benchmark::DoNotOptimize(schema::load_schema(schema_file));
-    }
+    for (auto _ : state) run(floor_program, {"check", workplace().path(deck)});
 }
 
 void check_orbitals_process(benchmark::State& state) { check_large(state, "orbitals.inp"); }

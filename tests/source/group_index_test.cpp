@@ -106,6 +106,17 @@ TEST_CASE("Lines are counted over every kind of line end") {
     CHECK(deck.sections()[1].line == 7);
 }
 
+TEST_CASE("Columns are counted from the begin of the line of each header") {
+    const Deck deck{"\xEF\xBB\xBF $SCF $END $GUESS $END\r  $VEC $END\r\n $BASIS $END\n"};
+    REQUIRE(deck.sections().size() == 4);
+    CHECK(deck.sections()[0].column == 5);
+    CHECK(deck.sections()[1].column == 15);
+    CHECK(deck.sections()[2].column == 3);
+    CHECK(deck.sections()[3].column == 2);
+    CHECK(deck.sections()[1].line == 1);
+    CHECK(deck.location(deck.sections()[1].header.begin) == Position{1, 15});
+}
+
 TEST_CASE("find_all gives the visible copies of a group whatever the case of the name") {
     const Deck deck{" $SCF $END\n $GUESS $END\n$SCF $END\n $scf $END\n"};
     for (const char* const name : {"SCF", "scf", "$Scf", " $SCF\t"}) {
