@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Builds the benchmarks in release, runs each beside its floor, and writes the ratios of the medians of
-# interleaved repetitions to docs/benchmarks.md and docs/benchmarks.svg. Takes five minutes; nothing else
+# interleaved repetitions to docs/benchmarks.md and docs/benchmarks.svg. Takes a few minutes; nothing else
 # should run meanwhile.
 #
 #   scripts/bench.sh [REPETITIONS]      9 unless given

@@ -8,6 +8,7 @@ between the two comments that mark it, and draws the plot.
 """
 
 import json
+import math
 import re
 import sys
 from pathlib import Path
@@ -78,7 +79,6 @@ def table_line(row: Row, measured: str, floor: str, ratio: float) -> str:
 
 def plot(ratios: list[tuple[Row, float]]) -> str:
     """One bar a row, on a logarithmic scale from 0.25 to 64, with a mark at the ratio aimed at."""
-    import math
     left, width, step, top = 440, 420, 24, 30
 
     def x(ratio: float) -> float:

@@ -32,7 +32,9 @@ bool send(int to, std::string_view text) {
     return true;
 }
 
-std::string receive(int from) {
+}  // namespace
+
+std::string read_to_end(int from) {
     std::string text;
     std::array<char, 4096> buffer{};
     while (true) {
@@ -41,8 +43,6 @@ std::string receive(int from) {
         text.append(buffer.data(), static_cast<std::size_t>(count));
     }
 }
-
-}  // namespace
 
 std::string in_child(const std::function<std::string()>& action) {
     std::array<int, 2> ends{};
@@ -55,7 +55,7 @@ std::string in_child(const std::function<std::string()>& action) {
         ::_exit(send(ends[1], outcome_of(action)) ? 0 : 1);
     }
     ::close(ends[1]);
-    std::string text = receive(ends[0]);
+    std::string text = read_to_end(ends[0]);
     ::close(ends[0]);
     int status = 0;
     if (::waitpid(child, &status, 0) != child) throw std::runtime_error("a process is lost");

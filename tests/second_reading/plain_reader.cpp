@@ -76,7 +76,7 @@ std::size_t read_group(const Lines& lines, std::size_t at, ParseResult& result) 
                                   " preserved non-keyword text from its header as raw text");
     bool is_closed = has_end(header);
     bool is_cut = false;
-    for (++at; at < lines.size() && !is_closed && !is_cut; ++at) {
+    for (++at; at < lines.size() && !is_closed; ++at) {
         is_cut = !header_name(lines[at]).empty();
         if (is_cut) break;
         if (is_worth_a_warning(add_text(before_end(lines[at]), mode, section), mode))

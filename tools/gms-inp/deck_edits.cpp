@@ -60,7 +60,7 @@ ExitCode apply(const DeckEdit& edit, TextDeck& deck) {
 
 ExitCode edit_file(const std::string& file, const EditTarget& target, const DeckEdit& edit) {
     try {
-        if (target.in_place) refuse_no_file(file);
+        if (target.in_place) require_editable_in_place(file);
         TextDeck deck = read_deck(file);
         const bool compares = target.in_place || target.only_look;
         const std::string before = compares ? deck.content.text() : std::string{};

@@ -20,7 +20,7 @@ void refuse_same_file(const std::string& input, const std::string& output) {
                              output);
 }
 
-void refuse_no_file(const std::string& path) {
+void require_editable_in_place(const std::string& path) {
     std::error_code error;
     if (std::filesystem::is_other(path, error))
         throw std::runtime_error("cannot edit what is no regular file in place: " + path);

@@ -20,7 +20,7 @@ void refuse_same_file(const std::string& input, const std::string& output);
 /// @param path  a file; one that does not exist, or is a directory, is fine here and fails when it
 /// is read
 /// @throws std::runtime_error when it is a pipe, a device or a socket
-void refuse_no_file(const std::string& path);
+void require_editable_in_place(const std::string& path);
 
 /// Writes text as a whole or not at all: other programs see the old file or the new one. Symbolic
 /// links are followed, and the mode of a file that was there is kept.

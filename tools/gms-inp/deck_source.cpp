@@ -43,19 +43,14 @@ std::string read_stdin() {
     return text;
 }
 
-/// The size that a regular file has now; 0 for anything else. Only a hint: files change.
-std::size_t expected_size(const std::string& path) {
-    std::error_code error;
-    const std::uintmax_t size = std::filesystem::file_size(path, error);
-    return error ? 0 : static_cast<std::size_t>(size);
-}
-
 std::string read_file(const std::string& path) {
     errno = 0;
     std::ifstream file{path, std::ios::binary};
     if (!file) throw_read_error(path, errno);
     std::string text;
-    text.reserve(expected_size(path));
+    std::error_code no_size;
+    const std::uintmax_t size = std::filesystem::file_size(path, no_size);
+    if (!no_size) text.reserve(static_cast<std::size_t>(size));
     Buffer buffer{};
     while (file) {
         file.read(buffer.data(), buffer.size());

@@ -7,6 +7,8 @@
 #include <unistd.h>
 #include <utility>
 
+#include "platform/child_process.hpp"
+
 namespace nurl::test {
 
 namespace {
@@ -40,16 +42,6 @@ void become_tool(const std::filesystem::path& directory, std::vector<std::string
     ::execv(NURL_TEST_TOOL_PROGRAM, pointers(words).data());
 }
 
-std::string read_all(int from) {
-    std::string text;
-    std::array<char, 4096> buffer{};
-    while (true) {
-        const ssize_t count = ::read(from, buffer.data(), buffer.size());
-        if (count <= 0) return text;
-        text.append(buffer.data(), static_cast<std::size_t>(count));
-    }
-}
-
 }  // namespace
 
 std::ostream& operator<<(std::ostream& stream, const ToolRun& run) {
@@ -67,7 +59,7 @@ ToolRun run_tool(const std::filesystem::path& directory, const std::vector<std::
         ::_exit(not_started);
     }
     ::close(err[1]);
-    std::string told = read_all(err[0]);
+    std::string told = read_to_end(err[0]);
     ::close(err[0]);
     int status = 0;
     if (::waitpid(process, &status, 0) != process) throw std::runtime_error("a process is lost");

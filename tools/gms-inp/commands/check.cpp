@@ -100,7 +100,7 @@ private:
 
     std::optional<source::Deck> read(const std::string& file) {
         try {
-            if (options_.fix) refuse_no_file(file);
+            if (options_.fix) require_editable_in_place(file);
             return read_deck(file).content;
         } catch (const std::runtime_error& error) {
             ++tally_.unreadable;
