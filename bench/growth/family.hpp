@@ -53,7 +53,10 @@ inline void require(bool done) {
     if (!done) throw std::runtime_error("the operation did not do what it is measured for");
 }
 
-/// The tables, one for each room of the library.
+/// The families of one room of the library.
+using Table = std::span<const Family> (*)() noexcept;
+
+/// The families of each room.
 [[nodiscard]] std::span<const Family> reader_families() noexcept;
 [[nodiscard]] std::span<const Family> reader_data_families() noexcept;
 [[nodiscard]] std::span<const Family> scanner_families() noexcept;
@@ -71,5 +74,8 @@ inline void require(bool done) {
 [[nodiscard]] std::span<const Family> check_molecule_families() noexcept;
 [[nodiscard]] std::span<const Family> compare_families() noexcept;
 [[nodiscard]] std::span<const Family> wrap_families() noexcept;
+
+/// All of these.
+[[nodiscard]] std::span<const Table> tables() noexcept;
 
 }  // namespace nurl::bench::growth

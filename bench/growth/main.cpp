@@ -1,7 +1,6 @@
 // Runs each family at n and at 4n. Callgrind leaves a file of counts for each run, with the n and
 // the name in it; the same two are printed, so that a run without counts is noticed.
 #include <algorithm>
-#include <array>
 #include <exception>
 #include <iostream>
 #include <span>
@@ -18,26 +17,6 @@ namespace growth = nurl::bench::growth;
 namespace {
 
 using growth::Family;
-
-constexpr auto tables = std::to_array<std::span<const Family> (*)() noexcept>({
-    growth::reader_families,
-    growth::reader_data_families,
-    growth::scanner_families,
-    growth::schema_families,
-    growth::editor_families,
-    growth::group_families,
-    growth::file_families,
-    growth::validation_families,
-    growth::typed_families,
-    growth::builder_families,
-    growth::source_index_families,
-    growth::source_item_families,
-    growth::source_edit_families,
-    growth::check_families,
-    growth::check_molecule_families,
-    growth::compare_families,
-    growth::wrap_families,
-});
 
 std::string label_of(const Family& family, std::size_t n) {
     return std::to_string(n) + '\t' + std::string{family.name};
@@ -71,7 +50,7 @@ bool is_asked_for(const Family& family, std::span<const std::string_view> words)
 
 bool run_all(std::span<const std::string_view> words, bool is_quick) {
     bool is_well = true;
-    for (const auto& table : tables)
+    for (const growth::Table table : growth::tables())
         for (const Family& family : table())
             if (is_asked_for(family, words)) is_well = run_both(family, is_quick) && is_well;
     return is_well;

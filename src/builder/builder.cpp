@@ -138,7 +138,8 @@ InputBuilder& InputBuilder::set_title(std::string title) {
 }
 
 InputBuilder& InputBuilder::set_point_group(std::string point_group) {
-    input_.point_group = detail::is_blank_text(point_group) ? "C1" : std::move(point_group);
+    if (detail::is_blank_text(point_group)) point_group = "C1";
+    input_.point_group = std::move(point_group);
     return *this;
 }
 

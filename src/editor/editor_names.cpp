@@ -31,7 +31,8 @@ bool is_editor_section(std::string_view name, std::string_view expected) noexcep
 
 std::string editor_dollar_name(std::string_view name) {
     const std::string bare = editor_section_name(name);
-    return bare.empty() ? "$SECTION" : '$' + bare;
+    if (bare.empty()) return "$SECTION";
+    return '$' + bare;
 }
 
 std::string editor_key_name(std::string_view key) { return to_upper_copy(editor_trim(key)); }

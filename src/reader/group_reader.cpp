@@ -17,6 +17,11 @@ constexpr std::string_view ended_by_header =
     " reached the next section before $END; treating it as implicitly terminated";
 constexpr std::string_view ended_by_file = " reached end-of-file without $END";
 
+/// Makes room for one more. Half as much again is enough, since lines can be as short as two bytes.
+void make_room(std::vector<std::string>& lines) {
+    if (lines.size() == lines.capacity()) lines.reserve(lines.size() + lines.size() / 2 + 1);
+}
+
 }  // namespace
 
 NamedSection GroupReader::read(const HeaderLine& header, LineCursor& lines) {
@@ -69,11 +74,13 @@ void GroupReader::add(std::string_view text, std::string_view kept) {
     if (!is_raw) split_pairs(text, pairs_, leftover_);
     const std::string_view rest = trim_view(is_raw ? text : leftover_);
     if (rest.empty()) return;
+    make_room(section_.raw_lines);
     section_.raw_lines.emplace_back(rest);
     if (mode_ == schema::SectionParseMode::Structured && !is_comment(rest)) warn(kept);
 }
 
 void GroupReader::warn(std::string_view about) {
+    make_room(*warnings_);
     warnings_->push_back("Section $" + section_.name + std::string{about});
 }
 

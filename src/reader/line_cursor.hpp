@@ -28,6 +28,9 @@ public:
         return dollar_.place() - begin_;
     }
 
+    /// Where the line begins in the text.
+    [[nodiscard]] std::size_t offset() const noexcept { return begin_; }
+
     /// The line the cursor stands on, without its terminator; not to be asked for at the end.
     [[nodiscard]] std::string_view line() const noexcept {
         return text_.substr(begin_, end_ - begin_);

@@ -1,6 +1,8 @@
 #include "nurl/input/gamess/reader.hpp"
 
+#include <cstddef>
 #include <utility>
+#include <vector>
 
 #include "model/text_view.hpp"
 #include "reader/data_group.hpp"
@@ -13,6 +15,24 @@ namespace nurl::input::gamess {
 
 namespace {
 
+/// The number of headers from the line on which `lines` stands.
+std::size_t count_headers(detail::LineCursor lines) noexcept {
+    std::size_t count = 0;
+    for (; !lines.at_end(); lines.advance())
+        if (lines.has_dollar() && detail::read_header(lines.line())) ++count;
+    return count;
+}
+
+/// Where groups stand close together, those still to come are counted once: twice the room that
+/// they need would be much beside the text.
+void make_room(const detail::LineCursor& lines, std::vector<NamedSection>& sections) {
+    constexpr std::size_t few = 16;
+    constexpr std::size_t far_apart = 64;  // bytes from one group to the next
+    if (sections.size() < few || sections.size() < sections.capacity()) return;
+    if (lines.offset() / far_apart < sections.size())
+        sections.reserve(sections.size() + count_headers(lines));
+}
+
 void read_any_group(const detail::HeaderLine& header, detail::LineCursor& lines,
                     detail::GroupReader& groups, ParseResult& result) {
     if (detail::equal_ignoring_case(header.name, "DATA")) {
@@ -20,6 +40,7 @@ void read_any_group(const detail::HeaderLine& header, detail::LineCursor& lines,
         return;
     }
     std::vector<NamedSection>& sections = result.input.sections;
+    make_room(lines, sections);
     sections.push_back(groups.read(header, lines));
     detail::lift_structured(sections.back(), result.input);
 }

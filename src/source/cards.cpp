@@ -1,6 +1,7 @@
 #include "source/cards.hpp"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 #include "model/text_view.hpp"
@@ -16,7 +17,8 @@ public:
     CardItems(std::string_view text, const Group& group)
         : text_(text), group_(group), place_(text, group) {}
 
-    std::vector<Item> run() {
+    void run(const ItemVisitor& visit) {
+        visit_ = &visit;
         const auto [begin, end] = group_.body;
         for (std::size_t at = begin; at < end;) {
             const std::size_t stop = std::min(line_end(text_, at), end);
@@ -25,7 +27,7 @@ public:
                 take_line({at, stop});
             at = std::min(next_line(text_, stop), end);
         }
-        return std::move(items_);
+        release();
     }
 
 private:
@@ -33,7 +35,7 @@ private:
         const bool is_title = group_.kind == GroupKind::Data && !has_title_;
         has_title_ = true;
         if (is_title || group_.kind == GroupKind::FixedColumns) {
-            add({ItemKind::Card, line, {}, {}, {}, {}});
+            begin_card(line);
             return;
         }
         const Span comment = find_comment(line);
@@ -42,45 +44,61 @@ private:
         // A line that is nothing but a comment is not there at all.
         const bool is_there = comment.empty() || !is_blank(content) || joins_before;
         if (is_there) take_content(content, joins_before);
-        if (!comment.empty()) add({ItemKind::Comment, comment, {}, {}, {}, {}});
+        if (!comment.empty()) take_between(comment);
     }
 
     void take_content(Span content, bool joins_before) {
         Span rest = content;
         for (std::size_t stop = find(';', rest); stop < rest.end; stop = find(';', rest)) {
             add_card({rest.begin, stop}, std::exchange(joins_before, false));
-            add({ItemKind::Separator, {stop, stop + 1}, {}, {}, {}, {}});
+            take_between({stop, stop + 1});
             rest.begin = stop + 1;
         }
         const Span glue = find_glue(rest);
         const Span card{rest.begin, glue.begin};
-        if (rest.begin == content.begin || joins_before || !is_blank(card))
-            add_card(card, joins_before);
+        if (rest.begin == content.begin || !is_blank(card)) add_card(card, joins_before);
         if (glue.empty()) return;
         joins_next_ = true;
-        add({ItemKind::Separator, glue, {}, {}, {}, {}});
+        take_between(glue);
     }
 
     /// Adds a card, or the words to the last one when the line before ended with a `>`.
     void add_card(Span span, bool joins_before) {
-        if (!joins_before) {
-            card_ = items_.size();
-            add({ItemKind::Card, span, {}, {}, {}, {}});
-        }
-        Item& card = items_[card_];
-        card.span.end = span.end;
+        if (!joins_before) begin_card(span);
+        card_->span.end = span.end;
         std::size_t at = span.begin;
         while (at < span.end) {
             while (at < span.end && separates(text_[at])) ++at;
             const std::size_t begin = at;
             while (at < span.end && !separates(text_[at])) ++at;
-            if (begin < at) card.words.push_back({begin, at});
+            if (begin < at) card_->words.push_back({begin, at});
         }
     }
 
-    void add(Item item) {
-        item.position = place_.at(item.span.begin);
-        items_.push_back(std::move(item));
+    void begin_card(Span span) {
+        release();
+        card_ = Item{ItemKind::Card, span, place_.at(span.begin), {}, {}, {}};
+    }
+
+    void take_between(Span span) {
+        if (card_)
+            behind_.push_back(span);
+        else
+            give(span);
+    }
+
+    /// Gives the card with what was held back behind it.
+    void release() {
+        if (!card_) return;
+        (*visit_)(*std::exchange(card_, std::nullopt));
+        for (const Span span : behind_) give(span);
+        behind_.clear();
+    }
+
+    /// Gives a comment or a separator.
+    void give(Span span) {
+        const ItemKind kind = text_[span.begin] == '!' ? ItemKind::Comment : ItemKind::Separator;
+        (*visit_)({kind, span, place_.at(span.begin), {}, {}, {}});
     }
 
     static bool separates(char c) noexcept { return detail::is_blank(c) || c == ','; }
@@ -111,16 +129,17 @@ private:
     std::string_view text_;
     const Group& group_;
     PlaceCounter place_;
-    std::vector<Item> items_;
-    std::size_t card_ = 0;     // the last card among items_
-    bool has_title_ = false;   // the title of a $DATA was met
-    bool joins_next_ = false;  // the line before ended with a `>`
+    const ItemVisitor* visit_ = nullptr;
+    std::optional<Item> card_;  // the next line may go on with it
+    std::vector<Span> behind_;  // comments and signs behind it
+    bool has_title_ = false;    // the title of a $DATA was met
+    bool joins_next_ = false;   // the line before ended with a `>`
 };
 
 }  // namespace
 
-std::vector<Item> card_items(std::string_view text, const Group& group) {
-    return CardItems(text, group).run();
+void for_each_card_item(std::string_view text, const Group& group, const ItemVisitor& visit) {
+    CardItems(text, group).run(visit);
 }
 
 }  // namespace nurl::input::gamess::source

@@ -11,6 +11,7 @@
 #include "nurl/core/text.hpp"
 #include "source/compare_cards.hpp"
 #include "source/compare_keywords.hpp"
+#include "source/compare_words.hpp"
 
 namespace nurl::input::gamess::source {
 
@@ -162,8 +163,8 @@ private:
     }
 
     void report(DifferenceKind kind, const Group& group, const Mark& a, const Mark& b) {
-        differences_.push_back(
-            {kind, group.name, group.occurrence, "", a.text, b.text, a.position, b.position});
+        differences_.push_back({kind, shown_name(group.name), group.occurrence, "", a.text, b.text,
+                                a.position, b.position});
     }
 
     VisibleGroups a_;

@@ -3,6 +3,7 @@
 #include <string>
 #include <utility>
 
+#include "source/cards.hpp"
 #include "source/compare_data.hpp"
 #include "source/compare_sequence.hpp"
 #include "source/line_ends.hpp"
@@ -29,22 +30,23 @@ public:
             return;
         }
         const bool is_text = group_.kind == GroupKind::FixedColumns;
-        for (Item& item : deck_.items(group_))
-            if (item.kind == ItemKind::Card) add(std::move(item), is_text);
+        for_each_card_item(deck_.text(), group_, [&](const Item& item) {
+            if (item.kind == ItemKind::Card) add(item, is_text);
+        });
     }
 
     [[nodiscard]] std::size_t size() const noexcept { return cards_.size(); }
     [[nodiscard]] const ComparedCard& card(std::size_t i) const noexcept { return cards_[i]; }
 
     [[nodiscard]] Sharing sharing(std::size_t i) const noexcept {
-        const Item& item = cards_[i].item;
-        return {item.position.line == group_.line, item.span.end > end_line_begin_};
+        const ComparedCard& card = cards_[i];
+        return {card.position.line == group_.line, card.span.end > end_line_begin_};
     }
 
     /// A card as it is shown to people: what shares its line is shown too.
     [[nodiscard]] std::string shown(std::size_t i) const {
         const ComparedCard& card = cards_[i];
-        const std::string_view line = deck_.text(card.item.span);
+        const std::string_view line = deck_.text(card.span);
         const bool is_joined = line.find_first_of("\r\n") != std::string_view::npos;
         std::string text{is_joined ? joined(card.words) : std::string{line}};
         if (!card.is_text || group_.kind == GroupKind::Data)
@@ -60,12 +62,12 @@ private:
         return line_begin(copy.deck.text(), copy.group.terminator.begin);
     }
 
-    void add(Item item, bool is_text) {
-        ComparedCard card{{}, std::move(item), WordRule::Exact, is_text, {}, {}};
+    void add(const Item& item, bool is_text) {
+        ComparedCard card{{}, item.span, item.position, WordRule::Exact, is_text, {}, {}};
         if (is_text)
-            card.text = deck_.text(card.item.span);
+            card.text = deck_.text(item.span);
         else
-            card.words = card_words(deck_.text(), card.item);
+            card.words = card_words(deck_.text(), item);
         cards_.push_back(std::move(card));
     }
 
@@ -76,7 +78,7 @@ private:
 };
 
 bool is_same(const ComparedCard& a, const ComparedCard& b) {
-    if (a.part != b.part || a.is_text != b.is_text) return false;
+    if (a.part != b.part) return false;
     return a.is_text ? a.text == b.text : same_words(a.words, b.words, a.rule);
 }
 
@@ -104,16 +106,22 @@ private:
     }
 
     void add(const UnequalRow& row) {
-        Difference difference{DifferenceKind::Line, group_.name, group_.occurrence, "", "", "",
-                              std::nullopt,         std::nullopt};
+        Difference difference{DifferenceKind::Line,
+                              shown_name(group_.name),
+                              group_.occurrence,
+                              "",
+                              "",
+                              "",
+                              std::nullopt,
+                              std::nullopt};
         difference.key = row.a ? a_.card(*row.a).part : b_.card(*row.b).part;
         if (row.a) {
             difference.before = a_.shown(*row.a);
-            difference.before_position = a_.card(*row.a).item.position;
+            difference.before_position = a_.card(*row.a).position;
         }
         if (row.b) {
             difference.after = b_.shown(*row.b);
-            difference.after_position = b_.card(*row.b).item.position;
+            difference.after_position = b_.card(*row.b).position;
         }
         differences_.push_back(std::move(difference));
     }

@@ -14,8 +14,9 @@ namespace nurl::input::gamess::source {
 
 /// A card as it is compared.
 struct ComparedCard {
-    std::string_view part;  ///< what it is for in `$DATA`, else empty
-    Item item;
+    std::string_view part;            ///< what it is for in `$DATA`, else empty
+    Span span;                        ///< all of it
+    Position position;                ///< where `span` begins
     WordRule rule = WordRule::Exact;  ///< how its words are compared
     bool is_text = false;             ///< it is compared as text, its words do not count
     std::string_view text;            ///< that text; of the deck

@@ -43,8 +43,7 @@ public:
         }
         for (const Item& card : layout_.rest)
             if (!card.words.empty() || counts_blank(card)) add("card", card, WordRule::ByValue);
-        std::ranges::sort(cards_, {},
-                          [](const ComparedCard& card) { return card.item.span.begin; });
+        std::ranges::sort(cards_, {}, [](const ComparedCard& card) { return card.span.begin; });
         return std::move(cards_);
     }
 
@@ -53,7 +52,13 @@ private:
         if (!layout_.title) return;
         Span title = layout_.title->span;
         while (!title.empty() && is_padding(deck_.text()[title.end - 1])) --title.end;
-        cards_.push_back({"title", *layout_.title, WordRule::Exact, true, deck_.text(title), {}});
+        cards_.push_back({"title",
+                          layout_.title->span,
+                          layout_.title->position,
+                          WordRule::Exact,
+                          true,
+                          deck_.text(title),
+                          {}});
     }
 
     void add(const AtomCards& atom) {
@@ -64,7 +69,8 @@ private:
     }
 
     void add(std::string_view part, const Item& card, WordRule rule) {
-        cards_.push_back({part, card, rule, false, {}, card_words(deck_.text(), card)});
+        cards_.push_back(
+            {part, card.span, card.position, rule, false, {}, card_words(deck_.text(), card)});
     }
 
     /// Whether a blank card may change how GAMESS reads the next one.

@@ -7,6 +7,7 @@
 
 #include "model/text_view.hpp"
 #include "source/compare_words.hpp"
+#include "source/keyword_items.hpp"
 #include "source/word_value.hpp"
 
 namespace nurl::input::gamess::source {
@@ -51,17 +52,17 @@ private:
     void add(const Group& copy) {
         std::string behind;
         bool goes_on = false;  // the item before was text as well
-        for (Item& item : deck_.items(copy)) {
+        for_each_keyword_item(deck_.text(), copy, [&](Item item) {
             if (item.kind == ItemKind::Text) {
                 if (!goes_on) merged_.texts.push_back({behind, {}, item.position});
                 merged_.texts.back().words.push_back(deck_.text(item.span));
                 goes_on = true;
             }
-            if (item.kind != ItemKind::Keyword) continue;
+            if (item.kind != ItemKind::Keyword) return;
             goes_on = false;
             behind = item.key;
             add(std::move(item), copy.name == "QUANPO");
-        }
+        });
     }
 
     void add(Item item, bool glues_lines) {

@@ -157,8 +157,8 @@ private:
     }
 
     void report(std::string key, const Shown& a, const Shown& b) {
-        differences_.push_back({DifferenceKind::Keyword, name_, 1, std::move(key), a.text, b.text,
-                                a.position, b.position});
+        differences_.push_back({DifferenceKind::Keyword, shown_name(name_), 1, std::move(key),
+                                a.text, b.text, a.position, b.position});
     }
 
     void compare_texts() {
@@ -171,8 +171,8 @@ private:
         for (const UnequalRow& row : unequal_rows(a.size(), b.size(), same)) {
             const Shown in_a = row.a ? shown_text(a[*row.a]) : Shown{};
             const Shown in_b = row.b ? shown_text(b[*row.b]) : Shown{};
-            differences_.push_back({DifferenceKind::Line, name_, 1, "", in_a.text, in_b.text,
-                                    in_a.position, in_b.position});
+            differences_.push_back({DifferenceKind::Line, shown_name(name_), 1, "", in_a.text,
+                                    in_b.text, in_a.position, in_b.position});
         }
     }
 

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <string>
 
+#include "nurl/input/gamess/source/wrap.hpp"
 #include "source/line_ends.hpp"
 #include "source/word_value.hpp"
 
@@ -94,6 +95,8 @@ bool same_words(const ComparedWords& a, const ComparedWords& b, WordRule rule) {
     return std::all_of(longer.begin() + static_cast<std::ptrdiff_t>(shorter.size()), longer.end(),
                        is_zero);
 }
+
+std::string shown_name(std::string_view name) { return std::string{name.substr(0, line_width)}; }
 
 std::string joined(const ComparedWords& words) {
     std::string text;

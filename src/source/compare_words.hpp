@@ -33,6 +33,10 @@ enum class WordRule {
 /// Whether two lists of words are the same by a rule.
 [[nodiscard]] bool same_words(const ComparedWords& a, const ComparedWords& b, WordRule rule);
 
+/// The name of a group as a difference gives it: its first 80 bytes. A deck may have as many
+/// differences as its longest name has letters.
+[[nodiscard]] std::string shown_name(std::string_view name);
+
 /// The words with a blank between them.
 [[nodiscard]] std::string joined(const ComparedWords& words);
 

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "model/text_view.hpp"
+#include "source/cards.hpp"
 #include "source/keyword_lookup.hpp"
 #include "source/word_value.hpp"
 
@@ -72,10 +73,11 @@ public:
                              style_ != CoordinateStyle::MopacStyle);
     }
 
-    DataLayout run(std::vector<Item> items) {
+    DataLayout run(const Group& data) {
         State state = style_ == CoordinateStyle::None ? State::Rest : State::Title;
-        for (Item& item : items)
+        for_each_card_item(deck_.text(), data, [&](Item item) {
             if (item.kind == ItemKind::Card) state = take(state, std::move(item));
+        });
         return std::move(layout_);
     }
 
@@ -181,7 +183,7 @@ bool is_c1(const Deck& deck, const Item& point_group) {
 DataRules data_rules(const Deck& deck) { return {coordinate_style(deck), has_inline_basis(deck)}; }
 
 DataLayout read_data_layout(const Deck& deck, const Group& data, const DataRules& rules) {
-    return LayoutReader(deck, data, rules).run(deck.items(data));
+    return LayoutReader(deck, data, rules).run(data);
 }
 
 }  // namespace nurl::input::gamess::source

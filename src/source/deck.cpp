@@ -26,16 +26,23 @@ std::span<const Group> Deck::sections() const& noexcept { return groups_; }
 
 std::vector<Group> Deck::find_all(std::string_view name) const {
     const std::string asked = asked_section(name);
-    std::vector<Group> found;
-    std::ranges::copy_if(groups_, std::back_inserter(found), [&asked](const Group& group) {
+    const auto is_copy = [&asked](const Group& group) {
         return group.visible && group.name == asked;
-    });
+    };
+    std::vector<Group> found;
+    found.reserve(static_cast<std::size_t>(std::ranges::count_if(groups_, is_copy)));
+    std::ranges::copy_if(groups_, std::back_inserter(found), is_copy);
     return found;
 }
 
 std::vector<Item> Deck::items(const Group& group) const {
-    return group.kind == GroupKind::Keywords ? keyword_items(text_, group)
-                                             : card_items(text_, group);
+    std::vector<Item> items;
+    const auto keep = [&items](Item item) { items.push_back(std::move(item)); };
+    if (group.kind == GroupKind::Keywords)
+        for_each_keyword_item(text_, group, keep);
+    else
+        for_each_card_item(text_, group, keep);
+    return items;
 }
 
 std::string Deck::value_of(const Item& item) const { return value_text(text_, item); }
@@ -52,12 +59,12 @@ std::vector<KeyValue> Deck::list_keywords(std::string_view section) const {
     std::unordered_map<std::string, std::size_t> places;  // among entries, by keyword
     for (const Group& group : groups_) {
         if (!group.visible || group.kind != GroupKind::Keywords || group.name != asked) continue;
-        for (const Item& item : items(group)) {
-            if (item.kind != ItemKind::Keyword) continue;
+        for_each_keyword_item(text_, group, [&](const Item& item) {
+            if (item.kind != ItemKind::Keyword) return;
             const auto [place, is_new] = places.try_emplace(asked_key(item.key), entries.size());
             if (is_new) entries.push_back({item.key, {}});
             entries[place->second].value = value_of(item);
-        }
+        });
     }
     return entries;
 }

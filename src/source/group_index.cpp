@@ -4,8 +4,11 @@
 // no stretch is searched more than a fixed number of times, however many hits a line has.
 #include "source/group_index.hpp"
 
+#include <optional>
 #include <string>
 #include <unordered_map>
+#include <utility>
+#include <vector>
 
 #include "model/text_view.hpp"
 #include "nurl/core/text.hpp"
@@ -24,18 +27,34 @@ public:
     explicit Indexer(std::string_view text) noexcept
         : text_(text), text_begin_(text.size() - detail::without_byte_order_mark(text).size()) {}
 
-    std::vector<Group> run() {
-        for (std::size_t at = text_.find('$'); at != std::string_view::npos;
+    /// The groups; nothing when they stand so close together that they have to be counted first.
+    std::optional<std::vector<Group>> run() {
+        walk();
+        if (must_count_) return std::nullopt;
+        mark_named_groups(text_, groups_);
+        return std::move(groups_);
+    }
+
+    /// The number of groups that `run` finds.
+    std::size_t count() {
+        keeps_last_only_ = true;
+        walk();
+        return begun_;
+    }
+
+    /// Makes room for a number of groups. They need not be counted any more.
+    void reserve(std::size_t number) { groups_.reserve(number); }
+
+private:
+    void walk() {
+        for (std::size_t at = text_.find('$'); at != std::string_view::npos && !must_count_;
              at = text_.find('$', at + 1)) {
             look_at(at);
             seen_ = at;
         }
         if (open_) close({text_.size(), text_.size()});
-        mark_named_groups(text_, groups_);
-        return std::move(groups_);
     }
 
-private:
     void look_at(std::size_t at) {
         follow_comment(at);
         if (detail::starts_with_ignoring_case(text_.substr(at), end_marker)) {
@@ -112,12 +131,27 @@ private:
         counted_ = header.begin;
         const std::size_t column = header.begin - line_begin_ + 1;
         const GroupKind kind = kind_of_group(name);
-        const std::size_t occurrence = ++occurrences_[name + (visible ? '+' : '-')];
+        if (!has_room(header.begin)) return;
+        const std::size_t occurrence =
+            keeps_last_only_ ? 0 : ++occurrences_[name + (visible ? '+' : '-')];
         groups_.push_back(
             {std::move(name), occurrence, kind, visible, line_, column, header, {}, {}});
         open_ = true;
         comment_seen_ = header.end;
         in_comment_ = false;
+    }
+
+    /// Whether one more group may be kept. Where many stand close together, the room that doubling
+    /// makes would be much beside the text.
+    bool has_room(std::size_t at) {
+        constexpr std::size_t few = 16;
+        constexpr std::size_t far_apart = 64;  // bytes from one group to the next
+        ++begun_;
+        if (keeps_last_only_)
+            groups_.clear();
+        else if (groups_.size() >= few && groups_.size() == groups_.capacity())
+            must_count_ = at / far_apart < groups_.size();
+        return !must_count_;
     }
 
     void end_group(std::size_t at) {
@@ -137,6 +171,9 @@ private:
     std::size_t text_begin_;  // behind a byte-order mark
     std::vector<Group> groups_;
     std::unordered_map<std::string, std::size_t> occurrences_;  // by name and visibility
+    std::size_t begun_ = 0;                                     // groups begun
+    bool keeps_last_only_ = false;                              // they are only counted
+    bool must_count_ = false;                                   // before more are kept
     bool open_ = false;                                         // the last group has not ended
     bool in_comment_ = false;                                   // at comment_seen_, inside a group
     bool on_line_of_end_ = false;   // no line end between the last $END and seen_
@@ -149,6 +186,11 @@ private:
 
 }  // namespace
 
-std::vector<Group> index_groups(std::string_view text) { return Indexer(text).run(); }
+std::vector<Group> index_groups(std::string_view text) {
+    if (auto groups = Indexer(text).run()) return *std::move(groups);
+    Indexer indexer(text);
+    indexer.reserve(Indexer(text).count());
+    return *indexer.run();
+}
 
 }  // namespace nurl::input::gamess::source

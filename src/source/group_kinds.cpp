@@ -50,11 +50,11 @@ using Names = std::unordered_set<std::string>;
 
 /// The names behind `BASNAM=`, over all elements of the array.
 void collect_basis_names(std::string_view text, const Group& basis, Names& names) {
-    for (const Item& item : keyword_items(text, basis)) {
-        if (detail::without_index(item.key) != "BASNAM") continue;
+    for_each_keyword_item(text, basis, [&](const Item& item) {
+        if (detail::without_index(item.key) != "BASNAM") return;
         for (const Span word : item.words)
             names.insert(searched_name(text.substr(word.begin, word.size())));
-    }
+    });
 }
 
 /// The word behind each `FRAGNAME=`.

@@ -3,10 +3,11 @@
 #include <algorithm>
 #include <string>
 #include <string_view>
-#include <vector>
+#include <utility>
 
 #include "nurl/core/text.hpp"
 #include "nurl/input/gamess/source/wrap.hpp"
+#include "source/keyword_items.hpp"
 #include "source/line_ends.hpp"
 
 namespace nurl::input::gamess::source {
@@ -20,18 +21,30 @@ bool is_lower_case(std::string_view text) noexcept {
     return std::ranges::any_of(text, is_small) && std::ranges::none_of(text, is_capital);
 }
 
-/// The name of a keyword as it stands in the text.
-std::string_view name_text(const Deck& deck, const Item& keyword) noexcept {
-    return deck.text({keyword.span.begin, keyword.span.begin + keyword.key.size()});
-}
+/// What a new keyword goes behind.
+struct Ending {
+    ItemKind kind = ItemKind::Separator;  ///< of the last item that is no separator, if any
+    Span last;                            ///< that item
+    Span name;                            ///< the name of the last keyword; empty without one
+    std::size_t until = 0;                ///< the end of the last keyword
+    std::size_t before_until = 0;         ///< the end of the keyword before that
 
-/// The last item of a group that is no separator; null when there is none.
-const Item* last_of(const std::vector<Item>& items) noexcept {
-    const Item* last = nullptr;
-    for (const Item& item : items)
-        if (item.kind != ItemKind::Separator && (last == nullptr || item.span.end > last->span.end))
-            last = &item;
-    return last;
+    [[nodiscard]] bool has_item() const noexcept { return kind != ItemKind::Separator; }
+};
+
+Ending ending_of(const Deck& deck, const Group& group) {
+    Ending ending;
+    for_each_keyword_item(deck.text(), group, [&ending](const Item& item) {
+        if (item.kind == ItemKind::Separator) return;
+        if (item.span.end > ending.last.end) {
+            ending.kind = item.kind;
+            ending.last = item.span;
+        }
+        if (item.kind != ItemKind::Keyword) return;
+        ending.name = {item.span.begin, item.span.begin + item.key.size()};
+        ending.before_until = std::exchange(ending.until, item.span.end);
+    });
+    return ending;
 }
 
 /// The blanks at the beginning of the line that holds `offset`.
@@ -42,40 +55,33 @@ std::string_view indentation_at(const Deck& deck, std::size_t offset) noexcept {
     return deck.text({begin, end});
 }
 
-/// Whether the last keyword stands alone on its line, with the header and `$END` on others.
-bool stands_in_a_column(const Deck& deck, const Group& group, const std::vector<Item>& items,
-                        const Item& last) noexcept {
-    const std::size_t begin = line_begin(deck.text(), last.span.begin);
-    if (group.header.begin >= begin) return false;
-    if (line_end(deck.text(), last.span.end) >= group.terminator.begin) return false;
-    return std::ranges::none_of(items, [&](const Item& item) {
-        return item.kind == ItemKind::Keyword && item.span.begin != last.span.begin &&
-               item.span.end > begin;
-    });
+/// Whether a keyword that ends its group stands alone on its line, with the header and `$END` on
+/// others.
+bool stands_in_a_column(const Deck& deck, const Group& group, const Ending& ending) noexcept {
+    const std::size_t begin = line_begin(deck.text(), ending.last.begin);
+    return group.header.begin < begin && ending.before_until <= begin &&
+           line_end(deck.text(), ending.last.end) < group.terminator.begin;
 }
 
 }  // namespace
 
 Edit addition(const Deck& deck, const Group& group, std::string_view key, std::string_view value) {
-    const std::vector<Item> items = deck.items(group);
-    const Item* const last = last_of(items);
-    const auto keyword =
-        std::ranges::find(items.rbegin(), items.rend(), ItemKind::Keyword, &Item::kind);
-    const bool is_lower = is_lower_case(keyword == items.rend() ? deck.text(group.header)
-                                                                : name_text(deck, *keyword));
+    const Ending ending = ending_of(deck, group);
+    const bool is_lower =
+        is_lower_case(deck.text(ending.name.empty() ? group.header : ending.name));
     std::string text = is_lower ? core::text::to_lower_copy(key) : std::string{key};
     (text += '=') += value;
 
-    std::size_t at = last == nullptr ? group.header.end : last->span.end;
+    std::size_t at = ending.has_item() ? ending.last.end : group.header.end;
     for (std::size_t i = at; i < group.body.end && is_separator(deck.text()[i]); ++i)
         if (deck.text()[i] == ',') at = i + 1;
     const std::size_t line = line_begin(deck.text(), at);
     const std::size_t end = std::min(line_end(deck.text(), at), group.terminator.end);
     const bool fits = end - line + 1 + text.size() <= line_width;
-    const bool is_open_comment = last != nullptr && last->kind == ItemKind::Comment &&
-                                 is_line_end(deck.text()[last->span.end]);
-    const bool in_column = last != nullptr && last->kind == ItemKind::Keyword &&
-                           stands_in_a_column(deck, group, items, *last);
+    const bool is_open_comment =
+        ending.kind == ItemKind::Comment && is_line_end(deck.text()[ending.last.end]);
+    const bool in_column =
+        ending.kind == ItemKind::Keyword && stands_in_a_column(deck, group, ending);
     if (fits && !is_open_comment && !in_column) return {{at, at}, ' ' + text};
 
     std::string indentation{indentation_at(deck, at)};

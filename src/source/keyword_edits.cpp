@@ -42,9 +42,17 @@ void check_readable(const std::string& key, std::string_view value) {
         throw std::runtime_error("Value cannot be read back: " + std::string{value});
 }
 
+/// The last visible group of a name; null when there is none.
+const Group* last_copy(const Deck& deck, std::string_view section) noexcept {
+    const Group* last = nullptr;
+    for (const Group& group : deck.sections())
+        if (group.visible && group.name == section) last = &group;
+    return last;
+}
+
 void check_has_keywords(const Deck& deck, const std::string& section) {
-    const std::vector<Group> copies = deck.find_all(section);
-    const GroupKind kind = copies.empty() ? kind_of_group(section) : copies.front().kind;
+    const Group* const copy = last_copy(deck, section);
+    const GroupKind kind = copy == nullptr ? kind_of_group(section) : copy->kind;
     if (kind != GroupKind::Keywords)
         throw std::runtime_error('$' + section + " does not support key=value editing");
 }
@@ -86,6 +94,7 @@ bool others_are_same(const Deck& a, const Deck& b, const std::string& section,
     const auto others_in = [&](const Deck& deck) {
         std::vector<KeyValue> entries = deck.list_keywords(section);
         std::erase_if(entries, [&](const KeyValue& entry) { return asked_key(entry.key) == key; });
+        entries.shrink_to_fit();  // there are two such lists at a time
         return entries;
     };
     return std::ranges::equal(others_in(a), others_in(b), [](const KeyValue& x, const KeyValue& y) {
@@ -96,7 +105,7 @@ bool others_are_same(const Deck& a, const Deck& b, const std::string& section,
 Deck with_new_keyword(Deck deck, const std::string& section, const std::string& key,
                       std::string_view value) {
     deck.ensure_section(section);
-    const Group group = deck.find_all(section).back();
+    const Group group = *last_copy(deck, section);
     if (group.terminator.empty())
         throw std::runtime_error("Section is not closed by $END: " + section);
     return edited(deck, group, {addition(deck, group, key, value)});
@@ -138,10 +147,7 @@ bool Deck::remove_keyword(std::string_view section, std::string_view key) {
     std::vector<Edit> edits;
     for (const Group& group : groups_) {
         if (!group.visible || group.kind != GroupKind::Keywords || group.name != name) continue;
-        const std::vector<Item> all = items(group);
-        for (std::size_t i = 0; i < all.size(); ++i)
-            if (!keyword.empty() && is_key(all[i], keyword))
-                std::ranges::move(removal(*this, group, all, i), std::back_inserter(edits));
+        if (!keyword.empty()) add_removals(*this, group, keyword, edits);
     }
     // Of two neighbours both may claim the blanks between them.
     for (std::size_t i = 1; i < edits.size(); ++i)

@@ -1,10 +1,12 @@
 // One walk from token to token. Whether a word is a keyword shows in what follows it on its line,
-// so the blanks behind a word are looked at twice. Commas and comments behind a value are held back
-// until the next word tells whether they stand inside the value or behind it.
+// so the blanks behind a word are looked at twice. A keyword is held back until its value ends, and
+// commas and comments behind a value until the next word tells whether they stand inside it.
 #include "source/keyword_items.hpp"
 
 #include <algorithm>
-#include <cassert>
+#include <iterator>
+#include <optional>
+#include <string>
 #include <utility>
 
 #include "model/text_view.hpp"
@@ -25,10 +27,10 @@ public:
           glues_lines_(group.name == "QUANPO"),
           place_(text, group) {}
 
-    std::vector<Item> run() {
+    void run(const ItemVisitor& visit) {
+        visit_ = &visit;
         while (at_ < end_) take_token();
-        release_held();
-        return std::move(items_);
+        release();
     }
 
 private:
@@ -37,9 +39,9 @@ private:
         if (detail::is_blank(c)) {
             ++at_;
         } else if (c == '!') {
-            hold(ItemKind::Comment, comment_end());
+            take_between(comment_end());
         } else if (c == ',' || (c == '>' && glues_lines_ && ends_line(at_ + 1))) {
-            hold(ItemKind::Separator, at_ + 1);
+            take_between(at_ + 1);
         } else {
             take_word();
         }
@@ -52,7 +54,7 @@ private:
             detail::is_letter(text_[word.begin]) && equals < end_ && text_[equals] == '=';
         if (is_key)
             begin_keyword(word, equals);
-        else if (in_value_ && !is_stray(text_[word.begin]))
+        else if (keyword_ && !is_stray(text_[word.begin]))
             extend_value(word);
         else
             add_text(word);
@@ -62,48 +64,55 @@ private:
     static bool is_stray(char c) noexcept { return c == '$' || c == '='; }
 
     void begin_keyword(Span key, std::size_t equals) {
-        release_held();
+        release();
         std::string name = core::text::to_upper_copy(text_.substr(key.begin, key.size()));
         std::erase_if(name, is_padding);
-        items_.push_back({ItemKind::Keyword,
-                          {key.begin, equals + 1},
-                          place_.at(key.begin),
-                          std::move(name),
-                          {equals + 1, equals + 1},
-                          {}});
-        keyword_ = items_.size() - 1;
-        in_value_ = true;
+        keyword_ = Item{ItemKind::Keyword, {key.begin, equals + 1},  place_.at(key.begin),
+                        std::move(name),   {equals + 1, equals + 1}, {}};
         at_ = equals + 1;
     }
 
     void extend_value(Span word) {
         // Commas within a value are no items.
-        for (Item& item : held_)
-            if (text_[item.span.begin] != ',') items_.push_back(std::move(item));
-        held_.clear();
-        Item& keyword = items_[keyword_];
-        if (keyword.words.empty()) keyword.value.begin = word.begin;
-        keyword.words.push_back(word);
-        keyword.value.end = word.end;
-        keyword.span.end = word.end;
+        std::ranges::copy_if(behind_, std::back_inserter(inside_),
+                             [this](Span span) { return text_[span.begin] != ','; });
+        behind_.clear();
+        if (keyword_->words.empty()) keyword_->value.begin = word.begin;
+        keyword_->words.push_back(word);
+        keyword_->value.end = word.end;
+        keyword_->span.end = word.end;
         at_ = word.end;
     }
 
     void add_text(Span word) {
-        release_held();
-        in_value_ = false;
-        items_.push_back({ItemKind::Text, word, place_.at(word.begin), {}, {}, {}});
+        release();
+        (*visit_)({ItemKind::Text, word, place_.at(word.begin), {}, {}, {}});
         at_ = word.end;
     }
 
-    void hold(ItemKind kind, std::size_t end) {
-        held_.push_back({kind, {at_, end}, place_.at(at_), {}, {}, {}});
+    void take_between(std::size_t end) {
+        const Span span{at_, end};
         at_ = end;
+        if (keyword_)
+            behind_.push_back(span);
+        else
+            give(span);
     }
 
-    void release_held() {
-        std::ranges::move(held_, std::back_inserter(items_));
-        held_.clear();
+    /// Gives the keyword with all that was held back.
+    void release() {
+        if (!keyword_) return;
+        (*visit_)(*std::exchange(keyword_, std::nullopt));
+        for (std::vector<Span>* const spans : {&inside_, &behind_}) {
+            for (const Span span : *spans) give(span);
+            spans->clear();
+        }
+    }
+
+    /// Gives a comment or a separator.
+    void give(Span span) {
+        const ItemKind kind = text_[span.begin] == '!' ? ItemKind::Comment : ItemKind::Separator;
+        (*visit_)({kind, span, place_.at(span.begin), {}, {}, {}});
     }
 
     [[nodiscard]] std::size_t skip_padding(std::size_t from) const noexcept {
@@ -123,7 +132,7 @@ private:
         return end < end_ && text_[end] == '!' ? end + 1 : end;
     }
 
-    [[nodiscard]] std::size_t word_end() noexcept {
+    [[nodiscard]] std::size_t word_end() const noexcept {
         const char first = text_[at_];
         if (first == '=') return at_ + 1;
         if (first == '\'' || first == '"')
@@ -152,15 +161,12 @@ private:
     }
 
     /// The end of a quoted text; 0 when there is no further quote of the kind in front of the next
-    /// `!`, `$` or line end. What was found is remembered, since a line of opening quotes must not
-    /// be searched to its end for each.
-    [[nodiscard]] std::size_t quote_end(char quote) noexcept {
-        std::size_t& known = quote == '"' ? double_quote_ : single_quote_;
-        if (known <= at_) {
-            known = at_ + 1;
-            while (known < end_ && text_[known] != quote && !ends_quotable(text_[known])) ++known;
-        }
-        return known < end_ && text_[known] == quote ? known + 1 : 0;
+    /// `!`, `$` or line end. A search in vain has passed no quote of its kind, so there is at most
+    /// one for each kind before that end.
+    [[nodiscard]] std::size_t quote_end(char quote) const noexcept {
+        std::size_t end = at_ + 1;
+        while (end < end_ && text_[end] != quote && !ends_quotable(text_[end])) ++end;
+        return end < end_ && text_[end] == quote ? end + 1 : 0;
     }
 
     /// Comments and ends of groups are looked for before quotes.
@@ -171,18 +177,22 @@ private:
     std::size_t at_;
     bool glues_lines_;
     PlaceCounter place_;
-    std::vector<Item> items_;
-    std::vector<Item> held_;        // behind the last word of a value
-    std::size_t keyword_ = 0;       // the last keyword among items_
-    bool in_value_ = false;         // the next word may belong to its value
-    std::size_t single_quote_ = 0;  // where the search for the next ' stopped
-    std::size_t double_quote_ = 0;  // likewise for "
+    const ItemVisitor* visit_ = nullptr;
+    std::optional<Item> keyword_;  // the next word may belong to its value
+    std::vector<Span> inside_;     // comments and signs between the words of the value
+    std::vector<Span> behind_;     // and commas behind the last of them
 };
 
 }  // namespace
 
+void for_each_keyword_item(std::string_view text, const Group& group, const ItemVisitor& visit) {
+    KeywordItems(text, group).run(visit);
+}
+
 std::vector<Item> keyword_items(std::string_view text, const Group& group) {
-    return KeywordItems(text, group).run();
+    std::vector<Item> items;
+    for_each_keyword_item(text, group, [&items](Item item) { items.push_back(std::move(item)); });
+    return items;
 }
 
 }  // namespace nurl::input::gamess::source

@@ -1,9 +1,11 @@
 #include "source/keyword_lookup.hpp"
 
 #include <algorithm>
+#include <utility>
 
 #include "model/text_view.hpp"
 #include "nurl/core/text.hpp"
+#include "source/keyword_items.hpp"
 #include "source/line_ends.hpp"
 
 namespace nurl::input::gamess::source {
@@ -44,10 +46,11 @@ std::optional<FoundKeyword> find_last(const Deck& deck, std::string_view section
     std::optional<FoundKeyword> found;
     for (const Group& group : deck.sections()) {
         if (!group.visible || group.kind != GroupKind::Keywords || group.name != section) continue;
-        std::vector<Item> items = deck.items(group);
-        const auto hit = std::find_if(items.rbegin(), items.rend(),
-                                      [key](const Item& item) { return is_key(item, key); });
-        if (hit != items.rend()) found = {group, std::move(*hit)};
+        std::optional<Item> last;
+        for_each_keyword_item(deck.text(), group, [&](Item item) {
+            if (is_key(item, key)) last = std::move(item);
+        });
+        if (last) found = {group, *std::move(last)};
     }
     return found;
 }

@@ -27,7 +27,7 @@ const Group* neighbour_of_new_group(const Deck& deck) noexcept {
     for (const Group& group : deck.sections()) {
         if (!is_visible(group)) continue;
         last = &group;
-        if (group.kind == GroupKind::Data && group.name == "DATA") break;
+        if (group.name == "DATA") break;
     }
     return last;
 }
@@ -97,13 +97,11 @@ std::string whole_group(const std::string& name, std::string_view text, std::str
 
 void Deck::ensure_section(std::string_view name) {
     const std::string asked = asked_section(name);
-    if (asked.empty() || asked == "DATA" || !find_all(asked).empty()) return;
+    if (asked.empty() || asked == "DATA" || location(asked)) return;
     const Edit edit = new_group(*this, asked);
     Deck next{edited_text(text_, {&edit, 1})};
     const std::vector<Group> made = next.find_all(asked);
-    if (next.groups_.size() != groups_.size() + 1 || made.size() != 1 ||
-        made.front().terminator.empty())
-        throw_unreadable(asked);
+    if (next.groups_.size() != groups_.size() + 1 || made.size() != 1) throw_unreadable(asked);
     *this = std::move(next);
 }
 

@@ -18,9 +18,10 @@ struct Part {
     std::string_view word;  ///< as written
     Span span;              ///< where the word stands
 
-    /// Whether the gaps are the same, or would be when one of them were laid out as the other.
+    /// Whether the gaps are the same, or would be when the other one, of a value that comes and has
+    /// no layout yet, were laid out as this one.
     [[nodiscard]] bool has_gap_of(const Part& other) const noexcept {
-        if (gap.has_layout || other.gap.has_layout) return gap.has_comma == other.gap.has_comma;
+        if (gap.has_layout) return gap.has_comma == other.gap.has_comma;
         return gap.text == other.gap.text;
     }
 
@@ -31,6 +32,7 @@ struct Part {
 
 std::vector<Part> parts_of(std::string_view text, const Item& keyword) {
     std::vector<Part> parts;
+    parts.reserve(keyword.words.size());
     std::size_t end = keyword.value.begin;
     for (const Span word : keyword.words) {
         const Gap gap = parts.empty() ? Gap{} : read_gap(text, {end, word.begin});
@@ -47,13 +49,13 @@ Item single_keyword(std::string_view text) {
     return keyword_items(text, group).front();
 }
 
-/// The comments within a span, in order.
+/// The comments within a span that ends with a word, in order.
 std::vector<Span> comments_within(const Deck& deck, Span span) {
     const std::string_view text = deck.text(span);
     std::vector<Span> comments;
     for (std::size_t at = text.find('!'); at < text.size(); at = text.find('!', at)) {
-        const std::size_t end = std::min(text.find_first_of("!\r\n", at + 1), text.size());
-        const std::size_t behind = end < text.size() && text[end] == '!' ? end + 1 : end;
+        const std::size_t end = text.find_first_of("!\r\n", at + 1);
+        const std::size_t behind = text[end] == '!' ? end + 1 : end;
         comments.push_back({span.begin + at, span.begin + behind});
         at = behind;
     }

@@ -39,26 +39,32 @@ public:
             if (!folds) continue;
             std::string between{piece.glued ? glue : ""};
             between.append(line_break).append(begin);
-            edits.push_back({gap, std::move(between)});
+            add({gap, std::move(between)}, edits);
         }
     }
 
 private:
     /// Joins each value to its `KEY=` unless the two together are too long for a line.
     void join_values() {
-        std::vector<Piece> joined;
+        std::size_t kept = 0;
         for (const Piece& piece : pieces_) {
             const bool joins =
-                piece.is_value &&
-                fits(indentation_.size(), {joined.back().span.begin, piece.span.end}, piece.glued);
+                piece.is_value && fits(indentation_.size(),
+                                       {pieces_[kept - 1].span.begin, piece.span.end}, piece.glued);
             if (!joins) {
-                joined.push_back(piece);
+                pieces_[kept++] = piece;
                 continue;
             }
-            joined.back().span.end = piece.span.end;
-            joined.back().core_end = piece.core_end;
+            pieces_[kept - 1].span.end = piece.span.end;
+            pieces_[kept - 1].core_end = piece.core_end;
         }
-        pieces_ = std::move(joined);
+        pieces_.resize(kept);
+    }
+
+    /// Half as much room again is enough, since a line can be folded every two bytes.
+    static void add(Edit edit, std::vector<Edit>& edits) {
+        if (edits.size() == edits.capacity()) edits.reserve(edits.size() + edits.size() / 2 + 1);
+        edits.push_back(std::move(edit));
     }
 
     /// Whether a piece that would begin at column offset `here` has to go on the next line, where

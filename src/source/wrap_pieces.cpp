@@ -4,6 +4,7 @@
 #include <iterator>
 #include <utility>
 
+#include "source/keyword_items.hpp"
 #include "source/line_ends.hpp"
 
 namespace nurl::input::gamess::source {
@@ -17,7 +18,10 @@ PieceCutter::PieceCutter(const Deck& deck, const Group& group)
 std::vector<Piece> PieceCutter::pieces_of(Span line) {
     std::vector<Piece> pieces;
     while (next_ < tokens_.size() && tokens_[next_].span.begin < line.begin) ++next_;
-    for (; next_ < tokens_.size() && tokens_[next_].span.begin < line.end; ++next_) {
+    std::size_t end = next_;
+    while (end < tokens_.size() && tokens_[end].span.begin < line.end) ++end;
+    pieces.reserve(end - next_);
+    for (; next_ < end; ++next_) {
         if (pieces.empty())
             pieces.push_back(piece_of(tokens_[next_]));
         else
@@ -39,12 +43,12 @@ void PieceCutter::add_keyword(const Item& item) {
 void PieceCutter::add_tokens(const Deck& deck, const Group& group) {
     std::vector<Token> comments;
     tokens_.push_back({group.header, TokenKind::Header});
-    for (const Item& item : deck.items(group)) {
+    for_each_keyword_item(deck.text(), group, [&](const Item& item) {
         if (item.kind == ItemKind::Keyword) add_keyword(item);
         if (item.kind == ItemKind::Text) tokens_.push_back({item.span, TokenKind::Text});
         if (item.kind == ItemKind::Comment)
             comments.push_back({without_trailing_blanks(text_, item.span), TokenKind::Comment});
-    }
+    });
     if (!group.terminator.empty()) {
         const Span tail{group.terminator.begin, line_end(text_, group.terminator.end)};
         tokens_.push_back({without_trailing_blanks(text_, tail), TokenKind::End});

@@ -149,3 +149,15 @@ TEST_CASE("The lines of a group are read from its header to its end") {
     CHECK(read_silently("$PCM\n\n  \n A=1\n\t\n B=2\n\n$END\n").sections ==
           Sections{{"PCM", {{"A", "1"}, {"B", "2"}}, {}}});
 }
+
+TEST_CASE("Groups are all found, close together and far apart") {
+    const auto found = [](const std::string& between) {
+        std::string text;
+        for (int i = 0; i < 100; ++i) text += " $A K=1 $END\n" + between;
+        const auto result = parse_string(text);
+        return result.input.sections.size();
+    };
+    CHECK(found("") == 100);
+    CHECK(found("costs 3 $\n$ 4\nplain\n") == 100);
+    CHECK(found(std::string(200, '-') + "\n") == 100);
+}

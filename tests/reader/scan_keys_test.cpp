@@ -1,4 +1,5 @@
 // Where a key begins and ends, and what makes it one.
+#include <cstddef>
 #include <string>
 #include <type_traits>
 
@@ -17,8 +18,8 @@ TEST_CASE("A scanned pair is a key and a value and the two ends of its span") {
     CHECK(value == "1");
     CHECK(begin == 2);
     CHECK(end == 5);
-    static_assert(std::is_unsigned_v<decltype(pair.begin)> && sizeof(pair.begin) == 8);
-    static_assert(std::is_unsigned_v<decltype(pair.end)> && sizeof(pair.end) == 8);
+    static_assert(std::is_same_v<decltype(pair.begin), std::size_t>);
+    static_assert(std::is_same_v<decltype(pair.end), std::size_t>);
     CHECK(ScannedKeyValue{}.begin == 0);
     CHECK(ScannedKeyValue{}.end == 0);
 }

@@ -48,6 +48,7 @@ TEST_CASE("A closing parenthesis in front of an opening one closes nothing") {
     check_scans({
         {"behind a name", "A)(1)=2", {}},
         {"in front of a name", ")A(1)=2", {{"A(1)", "2", 1, 7}}},
+        {"behind nested ones", "A((1))=2) B=3", {{"A((1))", "2)", 0, 9}, {"B", "3", 10, 13}}},
     });
 }
 

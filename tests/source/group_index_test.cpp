@@ -30,6 +30,20 @@ struct IndexCase {
 
 }  // namespace
 
+TEST_CASE("Many groups close together are found like a few") {
+    constexpr std::size_t number = 100;
+    std::string text(2000, '\n');
+    for (std::size_t i = 0; i < number; ++i) text += i % 2 == 0 ? " $A $END\n" : "$A\n";
+    const Deck deck{text};
+    REQUIRE(deck.sections().size() == number);
+    const Group& last = deck.sections().back();
+    CHECK(last.name == "A");
+    CHECK_FALSE(last.visible);
+    CHECK(last.occurrence == number / 2);
+    CHECK(last.line == 2000 + number);
+    CHECK(deck.find_all("A").size() == number / 2);
+}
+
 TEST_CASE("Groups are found as GAMESS finds them") {
     const std::vector<IndexCase> cases{
         {"an empty text", "", ""},
@@ -128,6 +142,25 @@ TEST_CASE("find_all gives the visible copies of a group whatever the case of the
     }
     CHECK(deck.find_all("VEC").empty());
     CHECK(deck.find_all("").empty());
+}
+
+TEST_CASE("Groups are all found, close together and far apart") {
+    const auto last_two = [](std::size_t between) {
+        std::string text;
+        for (int i = 0; i < 300; ++i)
+            text += " $SCF A=1 $END $GUESS $END\n" + std::string(between, '-') + "\n";
+        const Deck deck{text};
+        std::string shown = std::to_string(deck.sections().size());
+        for (const Group& group : deck.sections().last(2))
+            shown += ' ' + group.name + '#' + std::to_string(group.occurrence) + ' ' +
+                     std::to_string(group.line) + ':' + std::to_string(group.column) + " '" +
+                     std::string{deck.text(group.body)} + '\'';
+        return shown;
+    };
+    const std::string expected = "600 SCF#300 599:2 ' A=1 ' GUESS#300 599:16 ' '";
+    CHECK(last_two(0) == expected);
+    CHECK(last_two(40) == expected);
+    CHECK(last_two(200) == expected);
 }
 
 TEST_CASE("A million `$` on one line are looked at once each") {

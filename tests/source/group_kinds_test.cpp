@@ -65,6 +65,22 @@ TEST_CASE("Groups that FRAGNAME names hold cards") {
     CHECK(kind_in(text, "NH3") == GroupKind::FreeFormat);
 }
 
+TEST_CASE("The name behind FRAGNAME ends at a blank, a comma or a semicolon") {
+    const std::string text =
+        " $EFRAG\nFRAGNAME=WATER,COORD=CART\nFRAGNAME=NH3;FRAGNAME= \tCH4\tX\nNAME=N2 $END\n"
+        " $WATER\n $END\n $NH3\n $END\n $CH4\n $END\n $N2\n $END\n $CART\n $END\n";
+    CHECK(kind_in(text, "WATER") == GroupKind::FreeFormat);
+    CHECK(kind_in(text, "NH3") == GroupKind::FreeFormat);
+    CHECK(kind_in(text, "CH4") == GroupKind::FreeFormat);
+    CHECK(kind_in(text, "N2") == GroupKind::Keywords);
+    CHECK(kind_in(text, "CART") == GroupKind::Keywords);
+}
+
+TEST_CASE("A FRAGNAME without a name names nothing") {
+    CHECK(kind_in(" $EFRAG\nFRAGNAME=$END\n $NH3\n $END\n", "NH3") == GroupKind::Keywords);
+    CHECK(kind_in(" $EFRAG\nFRAGNAME\n $END\n $NH3\n $END\n", "NH3") == GroupKind::Keywords);
+}
+
 TEST_CASE("Six characters of a name are enough to find its group") {
     const std::string text = " $EFRAG\nFRAGNAME=BENZEN\n $END\n $BENZENE\nSTOP\n $END\n";
     CHECK(kind_in(text, "BENZENE") == GroupKind::FreeFormat);

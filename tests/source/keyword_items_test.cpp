@@ -52,6 +52,7 @@ TEST_CASE("The body of a keyword group is cut into keywords, comments, separator
         {"A='x ! y' B=1 !", "A='x ! y' B=1 !"},
         {"A='x\n y' B=1", "A='x|y' B=1"},
         {"A='x B=1", "A='x B=1"},
+        {"A='x $y' B=1", "A='x \"$y'\" B=1"},
         {"A=AP' B=1", "A=AP' B=1"},
         {"A=2*0.5 B=CCSD(T) C=f(1,2) D=f(1,x)", "A=2*0.5 B=CCSD(T) C=f(1,2) D=f(1|x)"},
         {"A=(1,2)", "A=(1|2)"},
@@ -63,9 +64,15 @@ TEST_CASE("The body of a keyword group is cut into keywords, comments, separator
     }
 }
 
+TEST_CASE("An index that the end of its group cuts off is none") {
+    CHECK(nurl::test::items_text(Deck{" $SCF A=B(1$END\n"}) == "A=B(1");
+    CHECK(nurl::test::items_text(Deck{" $SCF A=B(1,2$END\n"}) == "A=B(1|2");
+}
+
 TEST_CASE("In $QUANPO a `>` at the end of a line joins the next one") {
     const Deck deck{" $QUANPO NFIXMM=2 1 > \n 2 LEVEL=a>b $END\n"};
     CHECK(nurl::test::items_text(deck) == "NFIXMM=2|1|2 <>> LEVEL=a>b");
+    CHECK(nurl::test::items_text(Deck{" $QUANPO NFIXMM=2 > 2 >$END\n"}) == "NFIXMM=2|>|2 <>>");
 }
 
 TEST_CASE("An item knows its line and column") {

@@ -12,6 +12,8 @@ TEST_CASE("LF, CR LF and a lone CR each end one line") {
     CHECK(count_line_ends(text, {0, 4}) == 1);
     CHECK(count_line_ends(text, {0, 5}) == 2);
     CHECK(count_line_ends("", {0, 0}) == 0);
+    CHECK(count_line_ends("a\r", {0, 2}) == 1);
+    CHECK(count_line_ends("a\r\n", {0, 2}) == 0);
 }
 
 TEST_CASE("Line ends are counted in texts of every length") {
@@ -45,8 +47,20 @@ TEST_CASE("A new line end is like its neighbour") {
     CHECK(line_end_near("a\r\nb", 3) == "\r\n");
     CHECK(line_end_near("a\rb", 2) == "\r");
     CHECK(line_end_near("a\nb", 2) == "\n");
+    CHECK(line_end_near("a\r\n\nb", 4) == "\n");
+    CHECK(line_end_near("\na", 1) == "\n");
+    CHECK(line_end_near("\r\na", 2) == "\r\n");
     CHECK(line_end_near("a", 0) == "\n");
     CHECK(line_end_near("", 0) == "\n");
+}
+
+TEST_CASE("Padding is blanks of one line") {
+    CHECK(skip_padding("a \t\v\fb", 1) == 5);
+    CHECK(skip_padding("a \n b", 1) == 2);
+    CHECK(skip_padding("a, b", 1) == 1);
+    CHECK(skip_padding("a  ", 1) == 3);
+    CHECK(is_separator(','));
+    CHECK_FALSE(is_separator(';'));
 }
 
 }  // namespace nurl::input::gamess::source

@@ -19,6 +19,12 @@ TEST_CASE("A byte is found by line and column") {
     CHECK(deck.location(999) == Position{7, 2});
 }
 
+TEST_CASE("The place behind the last line end is on a line of its own") {
+    CHECK(Deck{"a\r"}.location(2) == Position{2, 1});
+    CHECK(Deck{"a\r\n"}.location(3) == Position{2, 1});
+    CHECK(Deck{"a\n"}.location(2) == Position{2, 1});
+}
+
 TEST_CASE("A text without a byte begins at line 1 and column 1") {
     CHECK(Deck{""}.location(0) == Position{1, 1});
 }

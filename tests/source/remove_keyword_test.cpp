@@ -25,10 +25,13 @@ TEST_CASE("A keyword goes with what separates it from the one before") {
         {"one in the middle", " $SCF B=1  A=2  C=3 $END\n", " $SCF B=1  C=3 $END\n"},
         {"one between commas", " $SCF B=1, A=2, C=3 $END\n", " $SCF B=1, C=3 $END\n"},
         {"one behind a comma", " $SCF B=1, A=2 $END\n", " $SCF B=1, $END\n"},
+        {"one between a comma and another", " $SCF B=1, A=2 C=3 $END\n", " $SCF B=1, C=3 $END\n"},
+        {"one behind a comma, glued", " $SCF B=1, A=2$END\n", " $SCF B=1,$END\n"},
         {"the first", " $SCF A=2 B=1 $END\n", " $SCF B=1 $END\n"},
         {"the first with a comma", " $SCF A=2,B=1 $END\n", " $SCF B=1 $END\n"},
         {"the only one", " $SCF A=2 $END\n", " $SCF $END\n"},
         {"the only one, glued", " $SCF A=2$END\n", " $SCF $END\n"},
+        {"the only one, below the name", " $SCF\n  A=2 $END\n", " $SCF $END\n"},
         {"a line of its own", " $SCF\n  B=1\n  A=2\n  C=3\n $END\n",
          " $SCF\n  B=1\n  C=3\n $END\n"},
         {"several lines of its own", " $SCF\n  A=2,\n   3\n  C=3\n $END\n",
@@ -37,12 +40,16 @@ TEST_CASE("A keyword goes with what separates it from the one before") {
         {"the first of a line, before a comment", " $SCF\n  A=2 ! two\n $END\n",
          " $SCF\n  ! two\n $END\n"},
         {"a line shared with $END", " $SCF B=1\n  A=2 $END\n", " $SCF B=1 $END\n"},
+        {"a line shared with $END behind a blank line", " $SCF B=1\n\n  A=2 $END\n",
+         " $SCF B=1\n\n  $END\n"},
         {"a line shared with $END behind a comment", " $SCF B=1 ! b\n  A=2 $END\n",
          " $SCF B=1 ! b\n  $END\n"},
         {"all of several", " $SCF A=1 B=1 A=2 $END\n $SCF A=3 $END\n",
          " $SCF B=1 $END\n $SCF $END\n"},
         {"two neighbours", " $SCF\n A=1 A=2 B=1\n $END\n", " $SCF\n  B=1\n $END\n"},
         {"a value with a comment", " $SCF A=1, ! one !2 B=1 $END\n", " $SCF ! one ! B=1 $END\n"},
+        {"a value with two comments", " $SCF A=1 !one!!two! 2 B=1 $END\n",
+         " $SCF !one!!two! B=1 $END\n"},
         {"a value with an open comment", " $SCF A=1, ! one\n 2 B=1 $END\n",
          " $SCF ! one\n B=1 $END\n"},
         {"not in a comment", " $SCF B=1 ! A=2\n $END\n", " $SCF B=1 ! A=2\n $END\n"},
@@ -53,6 +60,11 @@ TEST_CASE("A keyword goes with what separates it from the one before") {
         CAPTURE(row.name);
         CHECK(nurl::test::after_removal(row.before, "scf", "a") == row.after);
     }
+}
+
+TEST_CASE("A keyword over joined lines goes with the sign that joins them") {
+    CHECK(nurl::test::after_removal(" $QUANPO A=1 >\n 2 B=1 $END\n", "QUANPO", "A") ==
+          " $QUANPO  B=1 $END\n");
 }
 
 TEST_CASE("Nothing is removed for blank names and groups without keywords") {

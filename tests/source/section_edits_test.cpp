@@ -44,6 +44,8 @@ TEST_CASE("A new group follows letter case and line ends") {
           " $guess $end\r\n $data\r\nt\r\nC1\r\n $end\r\n");
     CHECK(after_ensure(" $data\nt\nC1\n $end\n", "VEC") == " $VEC\n $END\n $data\nt\nC1\n $end\n");
     CHECK(after_ensure(" $data\nt\nC1\n $end\n", "ecp") == " $ecp\n $end\n $data\nt\nC1\n $end\n");
+    CHECK(after_ensure(" $A~{1 $END\n", "SCF") == " $A~{1 $END\n $SCF $END\n");
+    CHECK(after_ensure(" $Z~ $END\n $az $END\n", "SCF") == " $Z~ $END\n $az $END\n $scf $end\n");
 }
 
 TEST_CASE("Without a $DATA a new group goes behind the last one") {
@@ -53,6 +55,8 @@ TEST_CASE("Without a $DATA a new group goes behind the last one") {
     CHECK(after_ensure(" $GUESS $END ! g\nnote\n", "SCF") ==
           " $GUESS $END ! g\n $SCF $END\nnote\n");
     CHECK(after_ensure("$DATA $END\n", "SCF") == "$DATA $END\n $SCF $END\n");
+    CHECK(after_ensure(" $DATAL\nO 8.0\n\n $END\n", "SCF") ==
+          " $DATAL\nO 8.0\n\n $END\n $SCF $END\n");
 }
 
 TEST_CASE("A group that is there, a blank name and DATA change nothing") {
@@ -100,6 +104,8 @@ TEST_CASE("One copy of a group is replaced by a text") {
     const std::string deck = " $VEC\n 1\n $END\nnote\n $VEC\n 2\n $END ! second\n";
     CHECK(after_replace(deck, 1, " $VEC\n 7  7\n $END\n") ==
           " $VEC\n 7  7\n $END\nnote\n $VEC\n 2\n $END ! second\n");
+    CHECK(after_replace(" $SCF $END\n" + deck, 1, "$VEC\n 7\n $END") ==
+          " $SCF $END\n $VEC\n 7\n $END\nnote\n $VEC\n 2\n $END ! second\n");
     CHECK(after_replace(deck, 2, "\n\n$vec\n 7\n $end") ==
           " $VEC\n 1\n $END\nnote\n $vec\n 7\n $end ! second\n");
 }
@@ -112,6 +118,7 @@ TEST_CASE("A replaced group takes the line ends of the deck") {
 TEST_CASE("A group without $END can be replaced by one that has it") {
     CHECK(after_replace(" $VEC\n 1\n $SCF $END\n", 1, " $VEC\n 2\n $END") ==
           " $VEC\n 2\n $END\n $SCF $END\n");
+    CHECK(after_replace(" $VEC\n 1\n", 1, " $VEC\n 2\n $END") == " $VEC\n 2\n $END");
 }
 
 TEST_CASE("A text that is not one whole group of the name is refused") {

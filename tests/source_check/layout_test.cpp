@@ -16,6 +16,7 @@ TEST_CASE("A header outside column 2 is found when GAMESS would know the group")
                 {"small letters", "$scf dirscf=.t. $end\n", {"1:1 " + finding}},
                 {"over several lines", "$SCF\n DIRSCF=.T.\n $END\n", {"1:1 " + finding}},
                 {"without an end", "$SCF DIRSCF=.T.\n", {"1:1 " + finding}},
+                {"a name alone", "$SCF\n", {"1:1 " + finding}},
                 {"an unknown group", "$MINE A=1 $END\n", {}},
                 {"prose", "   $SCF is not needed\n $CONTRL $END\n", {}},
                 {"a comment", "! $SCF DIRSCF=.T. $END\n--$SCF A=1 $END\n", {}},
@@ -50,6 +51,7 @@ TEST_CASE("A group behind the $END of another one is found") {
                 {"behind blanks", " $CONTRL $END \t $SCF $END\n", {"1:17 " + scf}},
                 {"behind an end in column 1", " $CONTRL\n$END $SCF\n $END\n", {"2:6 " + scf}},
                 {"on the next line", " $CONTRL $END\n $SCF A=1 $END\n", {}},
+                {"behind an open group", "$CONTRL\n$SCF A=1 $END\n", {}},
                 {"commented out", " $CONTRL $END ! $SCF A=1 $END\n", {}},
                 {"in prose", " $CONTRL $END and no $SCF A=1 $END\n", {}},
                 {"unknown", " $CONTRL $END $MINE A=1 $END\n", {}}});
@@ -124,8 +126,9 @@ TEST_CASE("A $END behind an open ! is found") {
 
 TEST_CASE("The comment in front of a hidden $END is closed when nothing follows it") {
     CHECK(fixed(" $SCF A=1 ! x $END\n\n", "hidden-end") == " $SCF A=1 ! x ! $END\n\n");
-    const std::string goes_on = " $SCF A=1 ! x $END\n B=1\n";
-    CHECK(fixed(goes_on, "hidden-end") == goes_on);
+    CHECK(fixed(" $SCF A=1 ! x $END\n ! y\n", "hidden-end") == " $SCF A=1 ! x ! $END\n ! y\n");
+    for (const std::string goes_on : {" $SCF A=1 ! x $END\n B=1\n", " $SCF ! x $END\n stray\n"})
+        CHECK(fixed(goes_on, "hidden-end") == goes_on);
     const std::string wide = " $SCF A=1 !" + std::string(64, 'x') + " $END\n";
     CHECK(fixed(wide, "hidden-end") == wide);
     const std::string cards = " $ECP\nx ! $END\n";
@@ -147,6 +150,8 @@ TEST_CASE("Formatted groups are asked for in capital letters, others are not") {
                  " $hess\n $END\n",
                  {"1:2 '$hess' must be in capital letters, $HESS is a formatted group"}},
                 {"an end", " $VEC\n $end\n", {}},
+                {"a longer name", " $vec2+\n $END\n $vec:\n $END\n", {}},
+                {"a name of digits", " $10\n $END\n", {}},
                 {"a group with keywords", " $scf $end\n", {}},
                 {"another punched group", " $pdb\n $end\n", {}},
                 {"a header that is not found", "$vec\n $END\n", {}}});

@@ -103,6 +103,9 @@ TEST_CASE("A blank line is put behind a basis set") {
           " $DATA\r\nt\r\nC1\r\nO 8 0 0 0\r\nS 1\r\n1 1 1\r\n\r\n$END\r\n");
     CHECK(fixed(" $DATA\nt\rC1\rO 8 0 0 0\rS 1\r1 1 1\r $END\r\n", "missing-blank-after-basis") ==
           " $DATA\nt\rC1\rO 8 0 0 0\rS 1\r1 1 1\r\r $END\r\n");
+    CHECK(fixed(inline_basis("C1\n" + oxygen + "S 1\n1 0.5 1.0 ! last\n"),
+                "missing-blank-after-basis") ==
+          inline_basis("C1\n" + oxygen + "S 1\n1 0.5 1.0 ! last\n\n"));
     const std::string one_line = " $DATA\nt\nC1\n" + oxygen + "S 1 ; 1 0.5 1.0 $END\n";
     const std::string open = " $DATA\nt\nC1\nO 8 0 0 0\nS 1\n1 1 1";
     CHECK(found(open, "missing-blank-after-basis").size() == 1);
@@ -126,6 +129,9 @@ TEST_CASE("A point group that GAMESS does not know is found") {
           {"4:1 Point group DNH needs the order of its axis, 1 to 8, behind it"}},
          {"with too high an order",
           with_basis("DNH 9\n\n" + oxygen),
+          {"4:1 Point group DNH needs the order of its axis, 1 to 8, behind it"}},
+         {"with an order below the lowest",
+          with_basis("DNH 0\n\n" + oxygen),
           {"4:1 Point group DNH needs the order of its axis, 1 to 8, behind it"}},
          {"an atom in its place",
           with_basis(oxygen + oxygen),

@@ -30,7 +30,7 @@ TEST_CASE("Names of another notation are told as GAMESS writes them") {
         {"D2d", "DND 2"},   {"S4", "S2N 2"}, {"S8", "S2N 4"},  {"CNV2", "CNV 2"}, {"DNH4", "DNH 4"},
         {"S2N3", "S2N 3"},  {"S3", ""},      {"C9", ""},       {"C1h", "CNH 1"},  {"C0v", ""},
         {"C2x", ""},        {"E2", ""},      {"X", ""},        {"", ""},          {"C10v", ""},
-        {"CNVCNVCNV2", ""},
+        {"CNVCNVCNV2", ""}, {"SX", ""},      {"T2", ""},       {"CS2", ""},       {"C12", ""},
     };
     for (const Row& row : rows) {
         CAPTURE(row.name);

@@ -28,6 +28,8 @@ TEST_CASE("Text beyond column 80 is found where GAMESS would read it") {
                  at_80 + "      $END\n",
                  {"1:83 " + contrl + ", nor is the $END"}},
                 {"text behind the $END", at_80 + "$END text\n", {}},
+                {"no $END at all", at_80 + "MULT=1", {"1:81 " + contrl}},
+                {"comments below", scf + " B=2\n ! x\n $END\n", {"2:82 " + contrl}},
                 {"a keyword", scf + " B=2\n $END\n", {"2:82 " + contrl}},
                 {"blanks", scf + "  \t\n $END\n", {}},
                 {"a comment", scf + " ! B=2\n $END\n", {}},
@@ -83,6 +85,7 @@ TEST_CASE("A wide line is left to the author where cutting it is not simple") {
          {line + " $SCF $END\n", line + " MULT=1 ! x ! $END\n", line + " A='b c' $END\n",
           filled(" $QUANPO NFIXMM=1", 79) + " 2 3 $END\n", filled(" $MINE A=1", 79) + " B=1 $END\n",
           " $CONTRL A=" + std::string(90, 'x') + " $END\n",
+          " $CONTRL\n" + std::string(90, 'x') + "\n $END\n",
           line + " MULT=1" + filled(" ", 75) + "$END\n", filled(" $ECP", 79) + " 1 2\n $END\n"}) {
         CAPTURE(text);
         CHECK(found(text, "beyond-column-80").size() == 1);

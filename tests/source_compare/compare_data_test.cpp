@@ -91,6 +91,17 @@ TEST_CASE("The blank card that closes a basis set counts where it decides what i
                 "line DATA basis: \" N31 6\"@8:1 -> \" N21 3\"@9:1"});
 }
 
+TEST_CASE("A blank card alone under an atom makes the further ones count") {
+    CHECK(in_data("a\nC1\nX 0.0\n\n", "a\nC1\nX 0.0\n\n\n", "") ==
+          Lines{"line DATA card: - -> \"\"@6:1"});
+}
+
+TEST_CASE("A blank card behind C1 counts where an atom has a basis set") {
+    CHECK(in_data("a\nC1\n\nO 8.0\n N31 6\n", "a\nC1\nO 8.0\n N31 6\n", "") ==
+          Lines{"line DATA card: \"\"@4:1 -> -"});
+    CHECK(in_data("a\nC1\n\nO 8.0\n", "a\nC1\nO 8.0\n", "") == Lines{});
+}
+
 TEST_CASE("A Z-matrix is compared with its values, however they are written") {
     CHECK(in_data("a\nC1\nO\nH 1 rOH\nH 1 rOH 2 aHOH\n\nrOH=0.96\naHOH=104.5\n",
                   "a\nC1\nO\nh 1 roh 0\nH 1 rOH 2 aHOH\n\n\nrOH 9.6D-1\naHOH = 104.5\n\n",

@@ -87,6 +87,17 @@ TEST_CASE("A group that is not closed goes on where another one begins") {
           Lines{"line SCF: \"$SCF\"@2:2 -> \"$END\"@2:11"});
 }
 
+TEST_CASE("The name of a group is shown up to its eightieth byte") {
+    const std::string shown = std::string(80, 'G');
+    const std::string group = " $" + shown + "G ";
+    CHECK(differences(group + "A=1 $END\n", group + "A=2 $END\n") ==
+          Lines{"keyword " + shown + " A: \"1\"@1:85 -> \"2\"@1:85"});
+    CHECK(differences(group + "x $END\n", group + "y $END\n") ==
+          Lines{"line " + shown + ": \"x\"@1:85 -> \"y\"@1:85"});
+    CHECK(differences(group + "$END\n", "") ==
+          Lines{"group " + shown + ": \"$" + shown + "G\"@1:2 -> -"});
+}
+
 TEST_CASE("Any bytes are compared with themselves") {
     for (const std::string& text :
          {std::string{" $A\0=\0 $END", 11}, std::string{" $DATA"}, std::string{" $DATA $END"},

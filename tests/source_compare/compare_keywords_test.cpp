@@ -91,6 +91,9 @@ TEST_CASE("An array in one piece on both sides is shown whole") {
           Lines{"keyword ZMAT IZMAT(1): \"1, 1,2\"@1:8 -> \"1,1,3\"@1:8"});
     CHECK(in_group("ZMAT", "A=1", "A=1 IZMAT(1)=1,1,3") ==
           Lines{"keyword ZMAT IZMAT(1): - -> \"1,1,3\"@1:12"});
+    CHECK(in_group("ZMAT", "A=1 IZMAT(1)=1,1,3", "A=1") ==
+          Lines{"keyword ZMAT IZMAT(1): \"1,1,3\"@1:12 -> -"});
+    CHECK(in_group("ZMAT", "A=", "A=1,2") == Lines{"keyword ZMAT A: \"\"@1:8 -> \"1,2\"@1:8"});
 }
 
 TEST_CASE("Of an array in pieces the elements are shown that differ") {
@@ -144,6 +147,7 @@ TEST_CASE("Words that belong to no keyword count") {
     CHECK(in_group("SCF", "stray A=1", "A=1") == Lines{"line SCF: \"stray\"@1:7 -> -"});
     CHECK(in_group("SCF", "stray A=1", "stray word A=1") ==
           Lines{"line SCF: \"stray\"@1:7 -> \"stray word\"@1:7"});
+    CHECK(in_group("SCF", "A=1", "stray A=1") == Lines{"line SCF: - -> \"stray\"@1:7"});
     CHECK(in_group("SCF", "1 A=1 = 2", "1 = 2 A=1").size() == 2);
     CHECK(in_group("SCF", "A=1 = 2 B=3", "A=1 B=3 = 2") ==
           Lines{"line SCF: \"= 2\"@1:11 -> \"= 2\"@1:15"});
@@ -155,6 +159,8 @@ TEST_CASE("In $QUANPO a list goes on only behind the sign for it") {
     CHECK(in_group("QUANPO", "NFIXMM=1 2 3", "NFIXMM=1 2\n   3").size() == 1);
     CHECK(in_group("QUANPO", "NFIXMM=1 2 >\n\n 3", "NFIXMM=1 2 3").size() == 1);
     CHECK(in_group("QUANPO", "NFIXMM=1 2 >\n 3 >\n 4", "NFIXMM=1 2 >\n 3\n 4").size() == 1);
+    CHECK(in_group("QUANPO", "NFIXMM=1 2\n 3", "NFIXMM=1 2\n\n 3") == Lines{});
+    CHECK(in_group("QUANPO", "NFIXMM=1 2\n 3", "NFIXMM=1 2\n >\n 3") == Lines{});
     CHECK(in_group("QUANPO", "NFIXMM=1 MAXIT=1", "NFIXMM=1\n MAXIT=1") == Lines{});
 }
 

@@ -134,6 +134,11 @@ TEST_CASE("Other point groups may be followed by two cards with points") {
     CHECK(layout_of(with_basis, "t\nCnv 2\n0 0 0 0 0 1\n1.0 0 0\nO 8.0\n") ==
           Lines{"title: t", "point group: Cnv 2", "axis: 0 0 0 0 0 1", "axis: 1.0 0 0",
                 "atom: O 8.0"});
+    CHECK(layout_of(with_basis, "t\nCnv 2\n0 0 0 0 0 1\n1.0 0 0 normal\nO 8.0\n") ==
+          Lines{"title: t", "point group: Cnv 2", "axis: 0 0 0 0 0 1", "axis: 1.0 0 0 normal",
+                "atom: O 8.0"});
+    CHECK(layout_of(with_basis, "t\nCnv 2\n0 0 0 0 0 1\n1.0 0 0 0\n") ==
+          Lines{"title: t", "point group: Cnv 2", "axis: 0 0 0 0 0 1", "atom: 1.0 0 0 0"});
 }
 
 TEST_CASE("The inversion has one card with points, and a plane is never an atom") {

@@ -21,6 +21,8 @@ TEST_CASE("A long line is folded at the last blanks between two keywords that do
           " $SCF AAA=1  BBB=2\n CCC=3\n $END\n");
     CHECK(wrapped(" $SCF AAA=1 BBB=2 CCC=3 DDD=4 $END\n", 12) ==
           " $SCF AAA=1\n BBB=2 CCC=3\n DDD=4 $END\n");
+    CHECK(wrapped(" $SCF AAA=1 BBB=2 CCC=3 DDD=4 EEE=5\n $END\n", 8) ==
+          " $SCF\n AAA=1\n BBB=2\n CCC=3\n DDD=4\n EEE=5\n $END\n");
 }
 
 TEST_CASE("The example of the header folds in front of MAXIT") {
@@ -52,6 +54,11 @@ TEST_CASE("A comma between two keywords stays behind the first one") {
     CHECK(wrapped(" $SCF\n AAA=1,BBB=2\n $END\n", 10) == " $SCF\n AAA=1,\n BBB=2\n $END\n");
 }
 
+TEST_CASE("A line of commas is left as it is") {
+    CHECK(wrapped(" $SCF\n ,,,,,,,,,\n $END\n", 8) == " $SCF\n ,,,,,,,,,\n $END\n");
+    CHECK(wrapped(" $SCF A=1\n ,,,,,,,,,", 8) == " $SCF\n A=1\n ,,,,,,,,,");
+}
+
 TEST_CASE("A comma in an index, or in a quoted text, is no place to fold") {
     CHECK(wrapped(" $SCF\n A=1 VEL(11, 2)=1\n $END\n", 13) ==
           " $SCF\n A=1\n VEL(11, 2)=1\n $END\n");
@@ -63,6 +70,7 @@ TEST_CASE("A keyword and its value stay together while they fit on a line") {
     CHECK(wrapped(" $SCF AAA=1 BBB = 2\n $END\n", 17) == " $SCF AAA=1\n BBB = 2\n $END\n");
     CHECK(wrapped(" $SCF AAA=1 BBBBBB = 23456789\n $END\n", 15) ==
           " $SCF AAA=1\n BBBBBB =\n 23456789\n $END\n");
+    CHECK(wrapped(" $SCF\n X=1 AAA= BBB=2\n $END\n", 12) == " $SCF\n X=1 AAA=\n BBB=2\n $END\n");
 }
 
 TEST_CASE("The end of a group goes to column two") {
@@ -98,6 +106,8 @@ TEST_CASE("A comment that is too long for any line stays where it is") {
           " $SCF\n LONGER=12345678 !a!!one two three\n $END\n");
     CHECK(wrapped(" $SCF\n AAA=1 B=2!one two three\n $END\n", 8) ==
           " $SCF\n AAA=1\n B=2!one two three\n $END\n");
+    CHECK(wrapped(" $SCF\n AAA=1 B=2!one two three! ,\n $END\n", 8) ==
+          " $SCF\n AAA=1\n B=2!one two three! ,\n $END\n");
 }
 
 TEST_CASE("A word that is too long stays where it is, and what follows goes on below") {

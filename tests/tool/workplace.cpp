@@ -7,6 +7,9 @@
 #include <stdexcept>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <utility>
+
+#include "support/emulator.hpp"
 
 namespace nurl::test {
 
@@ -74,9 +77,10 @@ pid_t start(const std::vector<std::string>& arguments, const Surroundings& surro
             const FileActions& actions) {
     std::vector<std::string> words = arguments;
     words.insert(words.begin(), NURL_TEST_TOOL_PROGRAM);
+    words = started_as(std::move(words));
     std::vector<std::string> variables = environment_with(surroundings.environment);
     pid_t process = 0;
-    require_success(::posix_spawn(&process, NURL_TEST_TOOL_PROGRAM, actions.get(), nullptr,
+    require_success(::posix_spawn(&process, words.front().c_str(), actions.get(), nullptr,
                                   pointers(words).data(), pointers(variables).data()),
                     "start");
     return process;

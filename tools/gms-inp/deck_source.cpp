@@ -1,7 +1,7 @@
 #include "deck_source.hpp"
 
-#include <array>
 #include <cerrno>
+#include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <filesystem>
@@ -9,6 +9,7 @@
 #include <stdexcept>
 #include <string_view>
 #include <system_error>
+#include <vector>
 
 #include "diagnostics.hpp"
 #include "nurl/input/gamess/reader.hpp"
@@ -22,7 +23,7 @@ namespace source = nurl::input::gamess::source;
 /// What `parse_string` says of such a text.
 constexpr std::string_view no_groups = "The input does not contain any GAMESS sections";
 
-using Buffer = std::array<char, 65536>;
+constexpr std::size_t block_size = 65536;
 
 [[noreturn]] void throw_read_error(const std::string& name, int error) {
     const std::string reason = std::generic_category().message(error);
@@ -35,9 +36,9 @@ using Buffer = std::array<char, 65536>;
 
 std::string read_stdin() {
     std::string text;
-    Buffer buffer{};
-    while (const std::size_t count = std::fread(buffer.data(), 1, buffer.size(), stdin)) {
-        text.append(buffer.data(), count);
+    std::vector<char> block(block_size);  // the stack may be small
+    while (const std::size_t count = std::fread(block.data(), 1, block.size(), stdin)) {
+        text.append(block.data(), count);
     }
     if (std::ferror(stdin) != 0) throw_read_error(shown_name("-"), errno);
     return text;
@@ -51,10 +52,10 @@ std::string read_file(const std::string& path) {
     std::error_code no_size;
     const std::uintmax_t size = std::filesystem::file_size(path, no_size);
     if (!no_size) text.reserve(static_cast<std::size_t>(size));
-    Buffer buffer{};
+    std::vector<char> block(block_size);  // the stack may be small
     while (file) {
-        file.read(buffer.data(), buffer.size());
-        text.append(buffer.data(), static_cast<std::size_t>(file.gcount()));
+        file.read(block.data(), block_size);
+        text.append(block.data(), static_cast<std::size_t>(file.gcount()));
     }
     if (file.bad()) throw_read_error(path, errno);
     return text;

@@ -1,6 +1,8 @@
 #include "group_copies.hpp"
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
 
 #include "ascii.hpp"
 
@@ -33,9 +35,9 @@ std::size_t end_of(const source::Deck& deck, const source::Group& group) {
 std::vector<source::Group> find_copies(const source::Deck& deck, const GroupPath& path) {
     std::vector<source::Group> copies = deck.find_all(path.group);
     if (path.copies == Copies::All || copies.empty()) return copies;
-    const std::size_t number = path.copies == Copies::Last ? copies.size() : path.number;
+    const std::uint64_t number = path.copies == Copies::Last ? copies.size() : path.number;
     if (number > copies.size()) return {};
-    return {copies[number - 1]};
+    return {copies[static_cast<std::size_t>(number) - 1]};
 }
 
 std::string absence_of(const source::Deck& deck, const GroupPath& path) {

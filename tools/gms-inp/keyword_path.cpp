@@ -1,6 +1,7 @@
 #include "keyword_path.hpp"
 
 #include <charconv>
+#include <cstddef>
 #include <stdexcept>
 #include <system_error>
 
@@ -22,7 +23,7 @@ std::string group_name(std::string_view text) {
 }
 
 /// Reads a number from 1 on. @return whether `text` is one and nothing else
-bool read_number(std::string_view text, std::size_t& number) noexcept {
+bool read_number(std::string_view text, std::uint64_t& number) noexcept {
     const char* const end = text.data() + text.size();
     const auto [stop, error] = std::from_chars(text.data(), end, number);
     return error == std::errc{} && stop == end && number > 0;

@@ -2,7 +2,7 @@
 /// How groups and keywords are named on the command line.
 #pragma once
 
-#include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -25,7 +25,7 @@ enum class Copies {
 struct GroupPath {
     std::string group;            ///< upper case, no `$`; never empty
     Copies copies = Copies::All;  ///< which copies
-    std::size_t number = 0;       ///< for `Copies::Numbered`, counted from 1
+    std::uint64_t number = 0;     ///< for `Copies::Numbered`, counted from 1
 };
 
 /// `GROUP.KEY=VALUE`.

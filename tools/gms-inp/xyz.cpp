@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cstdint>
 #include <optional>
 #include <system_error>
 #include <utility>
@@ -39,8 +40,8 @@ private:
     std::size_t number_ = 0;
 };
 
-std::optional<std::size_t> read_count(std::string_view text) noexcept {
-    std::size_t count = 0;
+std::optional<std::uint64_t> read_count(std::string_view text) noexcept {
+    std::uint64_t count = 0;
     const char* const end = text.data() + text.size();
     const auto [stop, error] = std::from_chars(text.data(), end, count);
     if (error != std::errc{} || stop != end || count == 0) return std::nullopt;
@@ -80,11 +81,11 @@ XyzMolecule read_xyz(std::string_view text) {
     if (text.starts_with(byte_order_mark)) text.remove_prefix(byte_order_mark.size());
     Lines lines{text};
     const std::string_view first = lines.take();
-    const std::optional<std::size_t> count = read_count(first);
+    const std::optional<std::uint64_t> count = read_count(first);
     if (!count) return fault_at(lines.number(), "the number of atoms", first);
     XyzMolecule molecule;
     molecule.comment = lines.take();
-    for (std::size_t number = 1; number <= *count; ++number) {
+    for (std::uint64_t number = 1; number <= *count; ++number) {
         const std::string_view line = lines.take();
         auto atom = read_atom(line);
         const std::string place =

@@ -18,8 +18,7 @@ bool is_like_atom(const Deck& deck, const Item& card) {
 
 bool is_certain_atom(const Deck& deck, const Item& card) {
     if (!is_like_atom(deck, card)) return false;
-    const auto charge = real_of(deck.text(card.words[1]));
-    return charge && names_element(deck.text(card.words[0]), *charge);
+    return names_element(deck.text(card.words[0]), *real_of(deck.text(card.words[1])));
 }
 
 }  // namespace nurl::input::gamess::source::checks

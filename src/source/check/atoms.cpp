@@ -24,6 +24,10 @@ constexpr double close = 0.1;         // Angstrom
 constexpr double bohr = 0.529177249;  // Angstrom
 constexpr double farthest = 1.0e9;    // Angstrom; beyond it no cells are counted
 
+/// Less than the square of `close` by more than what computing with binary numbers adds or takes,
+/// so that atoms 0.1 apart as written are that far apart on every machine.
+constexpr double close_squared = close * close * (1.0 - 1.0e-9);
+
 double squared_distance(const Point& a, const Point& b) noexcept {
     double sum = 0.0;
     for (std::size_t i = 0; i < a.size(); ++i) sum += (a.at(i) - b.at(i)) * (a.at(i) - b.at(i));
@@ -32,16 +36,16 @@ double squared_distance(const Point& a, const Point& b) noexcept {
 
 class Grid {
 public:
-    /// The first atom found closer than `close`; null when there is none.
+    /// The first atom of the deck closer than `close`; null when there is none.
     [[nodiscard]] const Atom* near(const Point& point) const {
         const Cell cell = cell_of(point);
+        const Atom* first = nullptr;
         for (std::int64_t dx = -1; dx <= 1; ++dx)
             for (std::int64_t dy = -1; dy <= 1; ++dy)
                 for (std::int64_t dz = -1; dz <= 1; ++dz)
-                    if (const Atom* hit =
-                            near_in({cell[0] + dx, cell[1] + dy, cell[2] + dz}, point))
-                        return hit;
-        return nullptr;
+                    first =
+                        earlier(first, near_in({cell[0] + dx, cell[1] + dy, cell[2] + dz}, point));
+        return first;
     }
 
     void add(const Point& point, const Atom& atom) {
@@ -63,6 +67,11 @@ private:
         }
     };
 
+    static const Atom* earlier(const Atom* a, const Atom* b) noexcept {
+        if (a == nullptr || b == nullptr) return a == nullptr ? b : a;
+        return a->card->span.begin < b->card->span.begin ? a : b;
+    }
+
     static Cell cell_of(const Point& point) noexcept {
         Cell cell{};
         for (std::size_t i = 0; i < cell.size(); ++i)
@@ -74,7 +83,7 @@ private:
         const auto hit = cells_.find(cell);
         if (hit == cells_.end()) return nullptr;
         for (const Entry& entry : hit->second)
-            if (squared_distance(entry.point, point) < close * close) return entry.atom;
+            if (squared_distance(entry.point, point) < close_squared) return entry.atom;
         return nullptr;
     }
 

@@ -35,10 +35,7 @@ bool has_atoms_among_basis(const Context& context) {
 /// Whether the cards of `$DATA` are all atoms of the molecule and nothing else.
 bool lists_all_atoms(const Context& context) {
     const DataLayout& layout = context.layout();
-    if (layout.atoms.empty() || !layout.point_group) return false;
-    const bool has_other_cards =
-        std::ranges::any_of(layout.rest, [](const Item& card) { return !card.words.empty(); });
-    if (has_other_cards || has_atoms_among_basis(context)) return false;
+    if (layout.atoms.empty() || has_atoms_among_basis(context)) return false;
     if (is_c1(context.deck(), *layout.point_group)) return true;
     const std::string_view coord = context.last_word("CONTRL", "COORD");
     constexpr auto all_atoms =

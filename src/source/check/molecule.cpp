@@ -27,9 +27,9 @@ std::string shown_card(const Deck& deck, const Item& card) {
     return shortened(text);
 }
 
-/// Whether a card fills its lines from the first column.
+/// Whether a card fills its lines from the first column. The header stands before all cards.
 bool begins_line(const Deck& deck, const Item& card) noexcept {
-    return card.span.begin == 0 || is_line_end(deck.text()[card.span.begin - 1]);
+    return is_line_end(deck.text()[card.span.begin - 1]);
 }
 
 /// A blank line in front of a card, unless the card shares its line with another one.
@@ -43,8 +43,7 @@ std::vector<Edit> blank_line_before(const Deck& deck, const Item& card) {
 /// it.
 bool is_semiempirical(const Deck& deck, const AtomCards& atom) {
     constexpr auto methods = std::to_array<std::string_view>({"MNDO", "AM1", "PM3", "RM1"});
-    const std::vector<Span>& words = atom.basis.front().words;
-    const std::string_view name = words.empty() ? std::string_view{} : deck.text(words.front());
+    const std::string_view name = deck.text(atom.basis.front().words.front());
     return std::ranges::any_of(methods, [name](std::string_view method) {
         return detail::equal_ignoring_case(name, method);
     });
@@ -65,13 +64,12 @@ void check_inside_basis(const Context& context, const AtomCards& atom, Findings&
 
 /// Where a line begins behind a card of `$DATA`; nothing when the card shares its line with more
 /// than a comment, goes on in the next one, or ends the text.
-std::optional<std::size_t> line_behind(const Context& context, const Item& card) {
-    const std::string_view text = context.deck().text();
-    const Span rest{card.span.end, line_end(text, card.span.end)};
-    const std::string_view shown = detail::trim_view(context.deck().text(rest));
+std::optional<std::size_t> line_behind(const Deck& deck, const Item& card) {
+    const Span rest{card.span.end, line_end(deck.text(), card.span.end)};
+    const std::string_view shown = detail::trim_view(deck.text(rest));
     if (!shown.empty() && !shown.starts_with('!')) return std::nullopt;
-    const std::size_t next = next_line(text, rest.end);
-    if (next == rest.end || next > context.data()->body.end) return std::nullopt;
+    const std::size_t next = next_line(deck.text(), rest.end);
+    if (next == rest.end) return std::nullopt;
     return next;
 }
 
@@ -80,7 +78,7 @@ void check_end_of_basis(const Context& context, const AtomCards& atom, Findings&
     const Item& last = atom.basis.back();
     if (atom.blank || is_certain_atom(context.deck(), last)) return;
     std::vector<Edit> fix;
-    if (const auto place = line_behind(context, last))
+    if (const auto place = line_behind(context.deck(), last))
         fix.push_back({{*place, *place}, std::string{line_end_before(context.deck(), *place)}});
     findings.add(last.span, "No blank card closes the last basis set before the end of $DATA", {},
                  std::move(fix));

@@ -32,7 +32,7 @@ public:
             const std::size_t title = next_line(text, group_.header.end);
             title_ = {title, line_end(text, title)};
         }
-        const std::size_t end = std::max(group_.body.end, group_.terminator.end);
+        const std::size_t end = group_.terminator.end;
         const std::string_view up_to_end = text.substr(0, end);
         for (std::size_t at = line_begin(text, group_.header.begin); at < end;) {
             const std::size_t stop = std::min(up_to_end.find('\n', at), end);
@@ -56,7 +56,7 @@ private:
         const Span beyond = text_of({line.begin + columns_read, line.end}, line.begin);
         if (beyond.empty()) return;
         std::string message = "Text beyond column 80 of $" + group_.name + " is not read";
-        if (group_.terminator.end > beyond.begin && group_.terminator.end <= line.end)
+        if (!group_.terminator.empty() && group_.terminator.end == line.end)
             message += ", nor is the $END";
         findings_.add(beyond, std::move(message), {}, fold(line));
     }
@@ -103,19 +103,20 @@ private:
         const std::size_t cut = last_cut(text, group_.terminator.begin - line.begin);
         if (cut == 0 || detail::trim_view(text.substr(cut)).size() + 1 > columns_read) return {};
         std::size_t kept = cut;
-        while (kept > 0 && is_padding(text[kept - 1])) --kept;
+        while (is_padding(text[kept - 1])) --kept;
         return {{{line.begin + kept, line.begin + cut}, std::string{context_.line_end()} + " "}};
     }
 
     /// Where the last word begins, outside parentheses and not next to a `=`, that has all text
-    /// before it within the columns read; 0 when the line must stay in one piece. A `$` may begin
-    /// the second line only as the end of the group, not to become a header.
+    /// before it within the columns read; 0 when the line must stay in one piece. There is text
+    /// beyond those columns, so they end before the line does. A `$` may begin the second line only
+    /// as the end of the group, not to become a header.
     [[nodiscard]] static std::size_t last_cut(std::string_view line, std::size_t end_of_group) {
         std::size_t cut = 0;
         std::size_t depth = 0;
         std::size_t end = 0;  // of the text so far
         char before = '=';    // its last byte; a line is not cut at its first word
-        for (std::size_t i = 0; end <= columns_read && i < line.size(); ++i) {
+        for (std::size_t i = 0; end <= columns_read; ++i) {
             const char c = line[i];
             if (is_padding(c)) continue;
             const bool begins = i > end || before == ',';

@@ -1,7 +1,9 @@
 #include <algorithm>
 #include <charconv>
 #include <cstddef>
+#include <cstdint>
 #include <iterator>
+#include <limits>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -52,12 +54,13 @@ struct Options {
 };
 
 std::size_t columns_of(const std::string& text) {
-    std::size_t columns = source::line_width;
+    std::uint64_t columns = source::line_width;
     const char* const end = text.data() + text.size();
     const auto [stop, error] = std::from_chars(text.data(), end, columns);
     if (!text.empty() && (error != std::errc{} || stop != end || columns == 0))
         throw std::runtime_error("expected a number of columns, not '" + text + "'");
-    return columns;
+    return static_cast<std::size_t>(
+        std::min<std::uint64_t>(columns, std::numeric_limits<std::size_t>::max()));
 }
 
 ExitCode fold(TextDeck& deck, std::size_t columns) {

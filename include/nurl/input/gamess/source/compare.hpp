@@ -24,7 +24,7 @@ enum class DifferenceKind : std::int32_t {
 /// One difference. An absent side has an empty text and no place.
 struct Difference {
     DifferenceKind kind = DifferenceKind::Group;  ///< what differs
-    std::string group;                            ///< upper case, without the `$`
+    std::string group;           ///< upper case, without the `$`; its first 80 bytes
     std::size_t occurrence = 1;  ///< which copy, for a group without keywords; 1 otherwise
     std::string key;     ///< the keyword with its index; of an array in several pieces the index of
                          ///< the first element that differs. For `$DATA` the part: "title", "point
@@ -61,8 +61,8 @@ struct Difference {
 ///         would see none, never the other way round.
 ///
 /// O(n log n) in the length of the texts. Lines are lined up from both ends of a group, so that one
-/// more or one less is one difference; the list is not the shortest there is. Throws only on memory
-/// exhaustion.
+/// more or one less is one difference; the list is not the shortest there is. Holds no more than
+/// 700 bytes of memory for each byte of the texts and 64 KiB. Throws only on memory exhaustion.
 ///
 ///     compare(Deck{" $SCF MAXIT=30 $END"}, Deck{" $scf maxit=3.D1 $end ! same"});  // none
 [[nodiscard]] NURL_GMS_INP_EXPORT std::vector<Difference> compare(const Deck& a, const Deck& b);

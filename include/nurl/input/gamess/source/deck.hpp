@@ -168,7 +168,8 @@ public:
     /// @param group  one of `sections()` or `find_all`
     /// @return the items in ascending order. A comment inside a value or a card comes behind it.
     ///
-    /// Linear in the length of the body.
+    /// Linear in the length of the body. Holds no more than 700 bytes of memory for each byte of
+    /// it, since an item can be about one.
     [[nodiscard]] NURL_GMS_INP_EXPORT std::vector<Item> items(const Group& group) const;
 
     /// The text of a value without its layout: as written, where it stands on one line; line ends

@@ -28,7 +28,8 @@ inline constexpr std::size_t line_width = 80;
 /// @param columns  at least 1
 /// @return edits for `Deck::apply`, sorted by place; each lies within one line
 ///
-/// Linear in the length of the text and of the edits. Throws only on memory exhaustion.
+/// Linear in the length of the text and of the edits. With more than 80 columns each edit can
+/// repeat an indentation of as many blanks. Throws only on memory exhaustion.
 ///
 ///     wrap(Deck{" $SCF DIRSCF=.T. MAXIT=30 $END"}, 20);  // one edit, in front of MAXIT
 [[nodiscard]] NURL_GMS_INP_EXPORT std::vector<Edit> wrap(const Deck& deck,
