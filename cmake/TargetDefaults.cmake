@@ -27,5 +27,9 @@ function(nurl_gms_inp_target_defaults target)
             $<$<BOOL:${NURL_GMS_INP_WARNINGS_AS_ERRORS}>:-Werror>
             -ffile-prefix-map=${PROJECT_BINARY_DIR}=build
             -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.)
+  if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+    # Sizes and numbers of files that 32 bits do not hold.
+    target_compile_definitions(${target} PRIVATE _FILE_OFFSET_BITS=64)
+  endif()
   nurl_gms_inp_harden(${target})
 endfunction()

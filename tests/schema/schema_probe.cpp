@@ -7,6 +7,9 @@
 #include <stdexcept>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <utility>
+
+#include "support/emulator.hpp"
 
 namespace nurl::test {
 
@@ -95,9 +98,10 @@ std::vector<std::string> SchemaProbe::ask(const std::vector<std::string>& questi
     const FileActions actions(directory_.string(), output);
     std::vector<std::string> words = questions;
     words.insert(words.begin(), program_.string());
+    words = started_as(std::move(words));
     std::vector<std::string> variables = environment();
     pid_t process = 0;
-    require_success(::posix_spawn(&process, program_.c_str(), actions.get(), nullptr,
+    require_success(::posix_spawn(&process, words.front().c_str(), actions.get(), nullptr,
                                   pointers(words).data(), pointers(variables).data()),
                     "start");
     wait_for_success(process);

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "platform/child_process.hpp"
+#include "support/emulator.hpp"
 
 namespace nurl::test {
 
@@ -39,7 +40,8 @@ void become_tool(const std::filesystem::path& directory, std::vector<std::string
     if (::chdir(directory.c_str()) != 0 || !lead_streams(err)) return;
     if (prepare) prepare();
     words.insert(words.begin(), NURL_TEST_TOOL_PROGRAM);
-    ::execv(NURL_TEST_TOOL_PROGRAM, pointers(words).data());
+    words = started_as(std::move(words));
+    ::execv(words.front().c_str(), pointers(words).data());
 }
 
 }  // namespace
