@@ -1,20 +1,25 @@
 #!/usr/bin/env bash
-# Compares the binary interface of the debug build with the one that is stored, and fails on any
+# Compares the binary interface of a build with the one that is stored, and fails on any
 # difference: in exported functions, and in the layout of the types that they take and give.
 #
-#   scripts/abi.sh            compares
-#   scripts/abi.sh --write    stores the interface as it is now, after an intended change
+#   scripts/abi.sh [BUILD]            compares; the build is build/debug unless given
+#   scripts/abi.sh --write [BUILD]    stores the interface as it is now, after an intended change
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 scripts/setup.sh --checks
-library=build/debug/src/libnurl_gms_inp.so
+write=false
+if [[ ${1:-} == --write ]]; then
+    write=true
+    shift
+fi
+library=${1:-build/debug}/src/libnurl_gms_inp.so
 stored=cmake/libnurl_gms_inp.abi.xz
 ours=(--drop-private-types --exported-interfaces-only)
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-if [[ ${1:-} == --write ]]; then
+if $write; then
     abidw --headers-dir include "${ours[@]}" --no-corpus-path --no-comp-dir-path --no-show-locs \
         --no-parameter-names --no-elf-needed "$library" | xz -9 >"$stored"
     exit

@@ -4,7 +4,9 @@
 #   scripts/setup.sh            the compiler, CMake, and what the tool and the tests use
 #   scripts/setup.sh --locales  also what scripts/locale.sh makes locales of
 #   scripts/setup.sh --bench    also what the benchmarks use
+#   scripts/setup.sh --portability   also what scripts/portability.sh builds and runs with
 #   scripts/setup.sh --growth   also what counting instructions uses
+#   scripts/setup.sh --mutation also what scripts/mutation.sh uses
 #   scripts/setup.sh --checks   also what scripts/lint.sh and the Clang presets use
 set -euo pipefail
 
@@ -12,11 +14,15 @@ packages=(g++ cmake ninja-build pkg-config python3 python3-yaml
     doctest-dev librapidcheck-dev libcli11-dev nlohmann-json3-dev)
 if [[ ${1:-} == --checks ]]; then
     packages+=(clang-14 clang-format-14 clang-tidy-14 libclang-rt-14-dev abigail-tools
-        xz-utils)
+        gcovr xz-utils)
+elif [[ ${1:-} == --mutation ]]; then
+    packages+=(clang-14 libclang-14-dev python3-clang-14)
 elif [[ ${1:-} == --locales ]]; then
     packages+=(locales)
 elif [[ ${1:-} == --bench ]]; then
     packages+=(libbenchmark-dev)
+elif [[ ${1:-} == --portability ]]; then
+    packages+=(clang-14 g++-i686-linux-gnu g++-s390x-linux-gnu qemu-user locales)
 elif [[ ${1:-} == --growth ]]; then
     packages+=(valgrind)
 fi

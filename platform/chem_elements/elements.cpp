@@ -38,7 +38,8 @@ std::optional<std::size_t> table_index(std::string_view trimmed) {
 std::string normalize_symbol(std::string_view symbol) {
     std::string trimmed = core::text::trim(symbol);
     const std::optional<std::size_t> index = table_index(trimmed);
-    return index ? std::string(symbols.at(*index)) : trimmed;
+    if (!index) return trimmed;
+    return std::string(symbols.at(*index));
 }
 
 std::optional<int> atomic_number_from_symbol(std::string_view symbol) {

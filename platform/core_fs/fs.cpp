@@ -211,7 +211,8 @@ bool write_text_file(const std::string& path, std::string_view text) {
     if (error == std::errc::filename_too_long) return false;
     const bool is_special =
         std::filesystem::exists(status) && !std::filesystem::is_regular_file(status);
-    return is_special ? write_directly(path, text) : replace_file(*target, text);
+    if (is_special) return write_directly(path, text);
+    return replace_file(*target, text);
 }
 
 }  // namespace nurl::core::fs

@@ -26,7 +26,7 @@ path program_directory() {
 /// Symbolic links are resolved first, as `..` behind one is not the parent of the written name.
 path library_directory() {
     Dl_info info{};
-    if (::dladdr(&anchor, &info) == 0 || info.dli_fname == nullptr) return {};
+    if (::dladdr(&anchor, &info) == 0) return {};
     std::error_code error;
     return std::filesystem::canonical(info.dli_fname, error).parent_path();
 }
@@ -58,12 +58,14 @@ std::string getenv_string(const char* name) {
     if (name == nullptr) return {};
     // NOLINTNEXTLINE(concurrency-mt-unsafe): the header asks that no thread changes the environment
     const char* const value = std::getenv(name);
-    return value == nullptr ? std::string{} : std::string{value};
+    if (value == nullptr) return {};
+    return value;
 }
 
 bool is_regular_file_path(const std::string& path) {
+    if (path.find('\0') != std::string::npos) return false;
     std::error_code error;
-    return path.find('\0') == std::string::npos && std::filesystem::is_regular_file(path, error);
+    return std::filesystem::is_regular_file(path, error);
 }
 
 std::string search_file(const char* env_var_name,
@@ -76,9 +78,10 @@ std::string search_file(const char* env_var_name,
     const bool is_root = ::geteuid() == 0;
     for (const path& root : search_roots(extra_roots, parent_levels)) {
         for (const std::string& candidate : relative_candidates) {
-            std::string file = (root / candidate).string();
-            if (!is_regular_file_path(file)) continue;
-            if (!is_root || only_root_could_write(file)) return file;
+            const path file = root / candidate;
+            if (!is_regular_file_path(file.string())) continue;
+            if (is_root && !only_root_could_write(file)) continue;
+            return file.string();
         }
     }
     return {};

@@ -58,12 +58,12 @@ bool is_below_one(std::string_view number) noexcept {
     return digits_before_point + exponent < 0;
 }
 
-/// Reads a number whose exponent, if any, is marked by `e` or `E`.
+/// Reads a number, not an empty text, whose exponent, if any, is marked by `e` or `E`.
 bool read_number(std::string_view number, double& value) noexcept {
     const char* const end = number.data() + number.size();
     double parsed = 0.0;
     const auto [stop, error] = std::from_chars(number.data(), end, parsed);
-    if (stop != end || error == std::errc::invalid_argument) return false;
+    if (stop != end) return false;
     if (error == std::errc::result_out_of_range) {
         if (!is_below_one(number)) return false;
         parsed = number.starts_with('-') ? -0.0 : 0.0;

@@ -38,12 +38,13 @@ std::string outcome_for_ordinary_user(const std::string& path) {
 }
 
 /// Replaces a file while a system call fails. @return what the write gave
-bool write_while_failing(SystemCall call, int occurrence, int error) {
+bool write_while_failing(SystemCall call, int occurrence, int error, bool lasting = false) {
     const TemporaryDirectory directory;
     const std::string path = directory.file("deck.inp");
     make_file(path, "old");
     const bool written = [&] {
-        const SystemFault fault({.call = call, .occurrence = occurrence, .error = error});
+        const SystemFault fault(
+            {.call = call, .occurrence = occurrence, .error = error, .lasting = lasting});
         const bool result = write_text_file(path, "new");
         CHECK(fault.was_met());
         return result;
@@ -113,6 +114,23 @@ TEST_CASE("A step interrupted by a signal is taken again") {
 
 TEST_CASE("A temporary name that is taken makes room for the next") {
     CHECK(write_while_failing(SystemCall::OpenAt, 2, EEXIST));
+}
+
+TEST_CASE("A directory in which every temporary name is taken is refused") {
+    CHECK_FALSE(write_while_failing(SystemCall::OpenAt, 2, EEXIST, true));
+}
+
+TEST_CASE("A write that takes nothing is not tried for ever") {
+    CHECK_FALSE(write_while_failing(SystemCall::Write, 1, 0, true));
+}
+
+TEST_CASE("A target that cannot be flushed is written all the same") {
+    for (const int error : {EINVAL, EROFS}) {
+        CAPTURE(error);
+        const SystemFault fault({.call = SystemCall::Sync, .occurrence = 1, .error = error});
+        CHECK(write_text_file("/dev/null", "text"));
+        CHECK(fault.was_met());
+    }
 }
 
 TEST_CASE("A file system that cannot flush its directories is no failure") {

@@ -2,6 +2,7 @@
 #include <csignal>
 #include <fcntl.h>
 #include <filesystem>
+#include <iterator>
 #include <string>
 #include <sys/stat.h>
 #include <thread>
@@ -154,6 +155,38 @@ TEST_CASE("The standard output is written by its name") {
     CHECK(first);
     CHECK(second);
     CHECK(content(directory.file("output")) == "one two");
+}
+
+TEST_CASE("The lowest descriptor is one as the others are") {
+    const TemporaryDirectory directory;
+    make_file(directory.file("log"), "");
+    const int saved = ::dup(STDIN_FILENO);
+    const int file = open_file(directory.file("log"), O_WRONLY);
+    ::dup2(file, STDIN_FILENO);
+    ::close(file);
+    const bool first = write_text_file("/dev/fd/0", "one ");
+    const bool second = write_text_file("/dev/fd/0", "two");
+    ::close(STDIN_FILENO);
+    const bool while_free = write_text_file(directory.file("deck.inp"), "text");
+    ::dup2(saved, STDIN_FILENO);
+    ::close(saved);
+    CHECK(first);
+    CHECK(second);
+    CHECK(content(directory.file("log")) == "one two");
+    CHECK(while_free);
+    CHECK(content(directory.file("deck.inp")) == "text");
+}
+
+TEST_CASE("No descriptor stays open") {
+    const auto count_open = [] {
+        return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
+    };
+    const TemporaryDirectory directory;
+    const auto before = count_open();
+    CHECK(write_text_file(directory.file("deck.inp"), "text"));
+    CHECK(write_text_file("/dev/null", "text"));
+    CHECK_FALSE(write_text_file(directory.file("missing/deck.inp"), "text"));
+    CHECK(count_open() == before);
 }
 
 TEST_CASE("A descriptor that is closed or only for reading gives false") {

@@ -47,6 +47,16 @@ TEST_CASE("A file that was there holds the new text only") {
     CHECK(directory.names() == Names{"deck.inp"});
 }
 
+TEST_CASE("A file whose size does not fit in 31 bits is replaced") {
+    const TemporaryDirectory directory;
+    const std::string path = directory.file("deck.inp");
+    make_file(path, "");
+    constexpr off_t three_gigabytes = 3'000'000'000;
+    REQUIRE(::truncate(path.c_str(), three_gigabytes) == 0);
+    CHECK(write_text_file(path, "new"));
+    CHECK(content(path) == "new");
+}
+
 TEST_CASE("An empty text makes an empty file") {
     const TemporaryDirectory directory;
     const std::string path = directory.file("deck.inp");

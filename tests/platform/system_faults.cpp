@@ -21,7 +21,11 @@ FaultPlan*& active_plan() noexcept {
 bool fails(SystemCall call) noexcept {
     FaultPlan* const plan = active_plan();
     if (plan == nullptr || plan->call != call || plan->occurrence == 0) return false;
-    if (--plan->occurrence > 0) return false;
+    if (plan->occurrence > 1) {
+        --plan->occurrence;
+        return false;
+    }
+    if (!plan->lasting) plan->occurrence = 0;
     plan->met = true;
     errno = plan->error;
     return true;
@@ -74,8 +78,12 @@ int __wrap_faccessat(int directory, const char* name, int mode, int flags) {
 }
 
 ssize_t __wrap_write(int file, const void* bytes, std::size_t size) {
-    if (nurl::test::fails(SystemCall::Write)) return -1;
     nurl::test::FaultPlan* const plan = nurl::test::active_plan();
+    if (nurl::test::fails(SystemCall::Write)) {
+        if (plan->error != 0) return -1;
+        errno = EINTR;  // left over from another call
+        return 0;
+    }
     if (plan == nullptr || !plan->faltering) return __real_write(file, bytes, size);
     if (++plan->writes % 2 == 0) {
         errno = EINTR;

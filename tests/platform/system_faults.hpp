@@ -44,7 +44,8 @@ inline constexpr std::array<NamedSystemCall, 9> all_system_calls{{
 struct FaultPlan {
     SystemCall call = SystemCall::OpenAt;  ///< the call that fails; a failing close closes anyway
     int occurrence = 0;                    ///< which one of them, counted from 1; 0 for none
-    int error = 0;                         ///< what `errno` says then
+    int error = 0;  ///< what `errno` says then; a write with 0 takes nothing and does not fail
+    bool lasting = false;    ///< whether all later ones fail too
     bool faltering = false;  ///< writes take three bytes, or are interrupted every other time
     bool met = false;        ///< whether the failing call was made
     int writes = 0;          ///< how many writes were made while faltering
