@@ -11,5 +11,5 @@ if [[ $preset == debug ]]; then scripts/setup.sh; else scripts/setup.sh --checks
 cmake --preset "$preset"
 cmake --build --preset "$preset" --parallel "$(nproc)"
 # What an earlier run counted, where the build counts.
-find "build/$preset" -name '*.gcda' -delete
+find "build/$preset" -name '*.gcda' -type f -delete
 ctest --preset "$preset" "${@:2}"

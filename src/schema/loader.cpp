@@ -187,8 +187,7 @@ Table read_schema(std::istream& stream, Choices* choices) {
 }
 
 Table load_schema(const std::string& path, Choices* choices) {
-    std::ifstream file;
-    if (!path.empty()) file.open(path);
+    std::ifstream file(path);
     return read_schema(file, choices);
 }
 

@@ -9,17 +9,10 @@ namespace {
 
 constexpr const char* path_variable = "NURL_GMS_INP_SCHEMA_YAML";
 
-/// A variable that names a regular file goes before everything else.
-std::string find_schema_path() {
-    std::string named = core::resource::getenv_string(path_variable);
-    if (!named.empty() && core::resource::is_regular_file_path(named)) return named;
-    return resolve_schema_path("");
-}
-
 /// What one pass over the file gives.
 struct Loaded {
     Choices choices;
-    Table table = load_schema(find_schema_path(), &choices);
+    Table table = load_schema(resolve_schema_path(""), &choices);
 };
 
 const Loaded& loaded() {

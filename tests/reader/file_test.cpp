@@ -44,6 +44,16 @@ TEST_CASE("A file is read as its text is") {
     CHECK(result == parse_string(text));
 }
 
+TEST_CASE("A file is read to its last byte and no further") {
+    const TemporaryDirectory directory;
+    for (const std::string text : {" $VEC\n 1  1 0.5", " $VEC\n", " $VEC", " $SCF A=1"}) {
+        CAPTURE(text);
+        make_file(directory.file("deck.inp"), text);
+        CHECK(parse_file(directory.file("deck.inp")).input.sections ==
+              parse_string(text).input.sections);
+    }
+}
+
 TEST_CASE("A path that names nothing gives an error with the path") {
     const TemporaryDirectory directory;
     const std::string path = directory.file("missing.inp");

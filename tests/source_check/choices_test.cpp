@@ -49,6 +49,8 @@ TEST_CASE("A list is split at its commas") {
     CHECK(list("[A,,B,]") == Words{"A", "B"});
     CHECK(list("[") == Words{});
     CHECK(list("]") == Words{});
+    CHECK(list("[A, B") == Words{});
+    CHECK(list("A, B]") == Words{});
     CHECK(list("") == Words{});
 }
 
