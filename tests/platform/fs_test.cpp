@@ -65,6 +65,12 @@ TEST_CASE("An empty text makes an empty file") {
     CHECK(content(path).empty());
 }
 
+TEST_CASE("A text of one byte is written") {
+    const TemporaryDirectory directory;
+    CHECK(write_text_file(directory.file("deck.inp"), "x"));
+    CHECK(content(directory.file("deck.inp")) == "x");
+}
+
 TEST_CASE("Every byte is written as it is") {
     const TemporaryDirectory directory;
     std::string bytes;
