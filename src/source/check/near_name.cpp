@@ -14,7 +14,7 @@ namespace nurl::input::gamess::source::checks {
 
 namespace {
 
-constexpr std::size_t longest = 24;
+constexpr std::size_t longest_name = 24;
 
 std::uint64_t letters_of(std::string_view word) noexcept {
     std::uint64_t letters = 0;
@@ -31,9 +31,9 @@ std::size_t length_difference(std::string_view a, std::string_view b) noexcept {
     return a.size() < b.size() ? b.size() - a.size() : a.size() - b.size();
 }
 
-/// How many changes make `b` of `a`; neither is longer than `longest`.
+/// How many changes make `b` of `a`; neither is longer than `longest_name`.
 std::size_t distance(std::string_view a, std::string_view b) {
-    using Row = std::array<std::size_t, longest + 1>;
+    using Row = std::array<std::size_t, longest_name + 1>;
     Row before{};
     Row above{};
     Row row{};
@@ -57,7 +57,7 @@ std::size_t distance(std::string_view a, std::string_view b) {
 
 NearNames::NearNames(const std::vector<std::string>& names) {
     for (const std::string& name : names) {
-        if (name.size() > longest) continue;
+        if (name.size() > longest_name) continue;
         std::string text = core::text::to_upper_copy(name);
         const std::uint64_t letters = letters_of(text);
         names_.push_back({std::move(text), letters});
@@ -67,7 +67,7 @@ NearNames::NearNames(const std::vector<std::string>& names) {
 
 std::vector<std::string_view> NearNames::nearest(std::string_view word) const {
     std::vector<std::string_view> hits;
-    if (word.size() > longest) return hits;
+    if (word.size() > longest_name) return hits;
     const std::string asked = core::text::to_upper_copy(word);
     const std::uint64_t letters = letters_of(asked);
     std::size_t allowed = changes_allowed(asked.size());
