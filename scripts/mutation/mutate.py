@@ -19,8 +19,8 @@ inside each other. The mutants:
 A comparison that the compiler makes of another operator (`a != b` of `==`, `a < b` of `<=>`) shows the tree of that
 other one, with parts that stand nowhere in the text; such parts are passed over.
 
-What the compiler computes is left alone: case labels, static_assert, enumerators, constexpr variables, macros. So are
-calls that only make room in a container or give it back."""
+What the compiler computes is left alone: case labels, static_assert, enumerators, constexpr variables, macros. So is
+what only makes room in a container, or reckons how much: it changes no result, and tests/bounds measures it."""
 import multiprocessing
 import os
 import re
@@ -32,7 +32,8 @@ cindex.Config.set_library_file(os.environ.get('LIBCLANG', 'libclang-14.so.1'))
 K = cindex.CursorKind
 COMPARISONS = {'<': 'less', '<=': 'less_equal', '>': 'greater', '>=': 'greater_equal'}
 EQUALITIES = {'==': 'equal', '!=': 'unequal'}
-ROOM = {'reserve', 'shrink_to_fit'}
+ROOM = {'reserve', 'shrink_to_fit', 'make_room', 'reserve_raw_lines', 'count_headers', 'most_issues', 'expected_size',
+        'group_block_size', 'data_block_size'}
 OVERLOADED = {'operator==', 'operator!='}
 FUNCTIONS = {K.FUNCTION_DECL, K.CXX_METHOD, K.CONSTRUCTOR, K.DESTRUCTOR, K.FUNCTION_TEMPLATE, K.CONVERSION_FUNCTION}
 STATEMENTS = {K.CALL_EXPR, K.COMPOUND_ASSIGNMENT_OPERATOR, K.UNARY_OPERATOR, K.BINARY_OPERATOR}
@@ -135,7 +136,7 @@ class Mutator:
             return
         if cursor.kind in (K.STATIC_ASSERT, K.ENUM_DECL):
             return
-        if cursor.kind == K.CALL_EXPR and cursor.spelling in ROOM:
+        if cursor.kind in FUNCTIONS | {K.CALL_EXPR} and cursor.spelling in ROOM:
             return
         if cursor.kind == K.VAR_DECL and re.match(r'(static |inline )*constexpr', self.text_of(cursor)):
             return
@@ -148,14 +149,15 @@ class Mutator:
         if inside:
             self.edit(cursor, parent, children)
         for child in children:
-            self.visit(child, cursor, inside)
+            # In front of a variable's name stands its type.
+            if cursor.kind != K.VAR_DECL or child.extent.start.offset > cursor.location.offset:
+                self.visit(child, cursor, inside)
 
     def is_number(self, cursor, parent):
-        """Whether a literal is computed with. One in front of a variable's name belongs to its type."""
+        """Whether a literal of the text is computed with."""
         start = self.span(cursor)[0]
         return (cursor.kind == K.INTEGER_LITERAL and parent.kind in LITERAL_PARENTS
-                and self.source[start:start + 1].isdigit()
-                and not (parent.kind == K.VAR_DECL and start < parent.location.offset))
+                and self.source[start:start + 1].isdigit())
 
     def is_statement(self, cursor, parent):
         if cursor.kind not in STATEMENTS:

@@ -96,6 +96,12 @@ TEST_CASE("Atoms that nearly coincide are found") {
          {"no coordinates", molecule("O 8\nH 1\n"), {}},
          {"a fragment run", molecule("O 8 0\nH 1 0\n", " $FMO NFRAG=1 $END\n"), {}},
          {"quantum nuclei", molecule("H 1 0\nH 1 0\n", " $NEO $END\n"), {}},
+         {"a group that GAMESS does not see",
+          molecule("O 8 0\nH 1 0\n", "$FMO NFRAG=1 $END\n"),
+          {"7:1 Atom 'H' " + finding + "'O' in line 6"}},
+         {"in the first of two $DATA",
+          molecule("O 8 0\nH 1 0\n") + molecule("O 8 0\n"),
+          {"6:1 Atom 'H' " + finding + "'O' in line 5"}},
          {"out of this world", molecule("H 1 1e300 0 0\nH 1 1e300 0 0\n"), {}},
          {"an unreadable charge", molecule("H x 0 0 0\nO 8 0 0 0\n"), {}},
          {"unreadable", molecule("H 1 x 0 0\nH 1 x 0 0\n"), {}}});

@@ -19,6 +19,7 @@ TEST_CASE("A header outside column 2 is found when GAMESS would know the group")
                 {"a name alone", "$SCF\n", {"1:1 " + finding}},
                 {"an unknown group", "$MINE A=1 $END\n", {}},
                 {"prose", "   $SCF is not needed\n $CONTRL $END\n", {}},
+                {"words that are closed", "   $SCF is needed $END\n", {"1:4 " + finding}},
                 {"a comment", "! $SCF DIRSCF=.T. $END\n--$SCF A=1 $END\n", {}},
                 {"a group that is found in any column", "$REKS A=1 $END\n", {}},
                 {"inside $VB2000", " $VB2000\n$SCF\n $END\n", {}},
@@ -80,7 +81,8 @@ TEST_CASE("A group without $END is found, punched ones by a rule of their own") 
                                {"a hidden end", " $SCF A=1 ! $END\n", {}},
                                {"a group that is not found", "$SCF A=1\n", {}},
                                {"a punched group", " $VEC\n 1  1\n", {}}});
-    check_rows("open-punched-group", {{"at the end",
+    check_rows("open-punched-group", {{"not seen by GAMESS", "$VEC\n 1  1\n", {}},
+                                      {"at the end",
                                        " $VEC\n 1  1\n",
                                        {"1:2 $VEC is not closed by $END before the end of "
                                         "the text"}},
@@ -103,7 +105,7 @@ TEST_CASE("A missing $END is put behind the last keyword where that is certain")
 TEST_CASE("A missing $END is left to the author where it is not certain") {
     for (const std::string text :
          {" $SCF CONV=1\n\n some prose\n", " $SCF CONV=1\n\n prose = more\n", " $SCF words\n",
-          " $MINE A=1\n", " $DATA\nt\nC1\n"}) {
+          " $MINE A=1\n", " $MINE\n", " $DATA\nt\nC1\n"}) {
         CAPTURE(text);
         CHECK(found(text, "missing-end").size() == 1);
         CHECK(fixed(text, "missing-end") == text);
@@ -129,8 +131,12 @@ TEST_CASE("The comment in front of a hidden $END is closed when nothing follows 
     CHECK(fixed(" $SCF A=1 ! x $END\n ! y\n", "hidden-end") == " $SCF A=1 ! x ! $END\n ! y\n");
     for (const std::string goes_on : {" $SCF A=1 ! x $END\n B=1\n", " $SCF ! x $END\n stray\n"})
         CHECK(fixed(goes_on, "hidden-end") == goes_on);
-    const std::string wide = " $SCF A=1 !" + std::string(64, 'x') + " $END\n";
-    CHECK(fixed(wide, "hidden-end") == wide);
+    // As wide as asked for with a ` $END`, in front of which two more columns are needed.
+    const auto line = [](std::size_t width) {
+        return " $SCF A=1 !" + std::string(width - 16, 'x');
+    };
+    CHECK(fixed(line(78) + " $END\n", "hidden-end") == line(78) + " ! $END\n");
+    CHECK(fixed(line(79) + " $END\n", "hidden-end") == line(79) + " $END\n");
     const std::string cards = " $ECP\nx ! $END\n";
     CHECK(fixed(cards, "hidden-end") == cards);
 }
@@ -160,5 +166,6 @@ TEST_CASE("Formatted groups are asked for in capital letters, others are not") {
                  " $VIB\n $End\n",
                  {"2:2 '$End' must be in capital letters, $VIB is a formatted group"}},
                 {"capital letters", " $GRAD\n $END\n", {}},
-                {"no end", " $DIPDR\n", {}}});
+                {"no end", " $DIPDR\n", {}},
+                {"the end of a group that is not found", "$VEC\n $end\n", {}}});
 }

@@ -25,6 +25,7 @@ TEST_CASE("A blank card is missed behind every point group but C1") {
         "missing-blank-card",
         {{"C1", with_basis("C1\n" + oxygen), {}},
          {"c1", with_basis(" c1 0\n" + oxygen), {}},
+         {"no point group", with_basis("\n" + oxygen), {}},
          {"missing", with_basis("CNV 2\n" + oxygen), {"5:1 Point group CNV 2" + tail}},
          {"missing, with a comment",
           with_basis("Td ! x\n" + oxygen),
