@@ -20,7 +20,6 @@ ComparedWords without_equals(const ComparedWords& words) {
              equals = word.find('=')) {
             if (equals > 0) parts.push_back(word.substr(0, equals));
             word.remove_prefix(equals + 1);
-            if (word.empty()) break;
         }
         if (!word.empty()) parts.push_back(word);
     }

@@ -57,13 +57,14 @@ private:
 
     void look_at(std::size_t at) {
         follow_comment(at);
+        follow_line_of_end(at);
         if (detail::starts_with_ignoring_case(text_.substr(at), end_marker)) {
             if (open_ && !in_comment_) end_group(at);
             return;
         }
         const bool first = is_first_on_line(at);
         const std::size_t name_end = end_of_name(at);
-        if (name_end == at + 1 || !may_be_header(at, first)) return;
+        if (name_end == at + 1 || !may_be_header(first)) return;
         std::string name = core::text::to_upper_copy(text_.substr(at + 1, name_end - at - 1));
         const bool visible = first && (is_in_column_two(at) || is_found_in_any_column(name));
         if (open_ && !visible && groups_.back().visible) return;
@@ -73,8 +74,8 @@ private:
     }
 
     /// Whether a header may stand here: first on its line, or between groups behind an $END.
-    [[nodiscard]] bool may_be_header(std::size_t at, bool first) noexcept {
-        if (!open_) return first || is_behind_end(at);
+    [[nodiscard]] bool may_be_header(bool first) const noexcept {
+        if (!open_) return first || on_line_of_end_;
         return first && !has_inner_headers(groups_.back().name);
     }
 
@@ -104,11 +105,10 @@ private:
         return at > 0 && text_[at - 1] == ' ' && (at == 1 || is_line_end(text_[at - 2]));
     }
 
-    /// Whether the last `$END` stands on the line of a hit.
-    [[nodiscard]] bool is_behind_end(std::size_t at) noexcept {
+    /// Carries on over the bytes since the last hit whether a group ended on this line.
+    void follow_line_of_end(std::size_t at) noexcept {
         for (std::size_t i = seen_; on_line_of_end_ && i < at; ++i)
             on_line_of_end_ = !is_line_end(text_[i]);
-        return on_line_of_end_;
     }
 
     [[nodiscard]] std::size_t end_of_name(std::size_t at) const noexcept {
@@ -164,7 +164,6 @@ private:
         group.body = {group.header.end, terminator.begin};
         group.terminator = terminator;
         open_ = false;
-        on_line_of_end_ = false;
     }
 
     std::string_view text_;
@@ -176,7 +175,7 @@ private:
     bool must_count_ = false;                                   // before more are kept
     bool open_ = false;                                         // the last group has not ended
     bool in_comment_ = false;                                   // at comment_seen_, inside a group
-    bool on_line_of_end_ = false;   // no line end between the last $END and seen_
+    bool on_line_of_end_ = false;   // no line end since the last group ended
     std::size_t comment_seen_ = 0;  // up to here comments were followed
     std::size_t seen_ = 0;          // the last hit
     std::size_t counted_ = 0;       // up to here line ends were counted

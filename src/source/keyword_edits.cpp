@@ -104,7 +104,7 @@ bool others_are_same(const Deck& a, const Deck& b, const std::string& section,
 
 Deck with_new_keyword(Deck deck, const std::string& section, const std::string& key,
                       std::string_view value) {
-    deck.ensure_section(section);
+    deck.ensure_section('$' + section);  // of which it takes the `$`, not one of the name
     const Group group = *last_copy(deck, section);
     if (group.terminator.empty())
         throw std::runtime_error("Section is not closed by $END: " + section);
@@ -147,7 +147,7 @@ bool Deck::remove_keyword(std::string_view section, std::string_view key) {
     std::vector<Edit> edits;
     for (const Group& group : groups_) {
         if (!group.visible || group.kind != GroupKind::Keywords || group.name != name) continue;
-        if (!keyword.empty()) add_removals(*this, group, keyword, edits);
+        add_removals(*this, group, keyword, edits);
     }
     // Of two neighbours both may claim the blanks between them.
     for (std::size_t i = 1; i < edits.size(); ++i)

@@ -21,16 +21,16 @@ struct Use {
     std::vector<Span> comments;      ///< those that are comments
 };
 
-/// What of a span is left without the comments in it. The line end behind an open comment stays.
+/// What of a span is left without the comments in it, all in front of its last word. The line end
+/// behind an open comment stays.
 void erase_around_comments(const Deck& deck, const Use& use, std::vector<Edit>& edits) {
     std::size_t begin = use.span.begin;
     for (const Span comment : use.comments) {
         if (begin < comment.begin) edits.push_back({{begin, comment.begin}, {}});
         begin = comment.end;
-        if (begin < use.span.end && is_line_end(deck.text()[begin]))
-            begin = next_line(deck.text(), begin);
+        if (is_line_end(deck.text()[begin])) begin = next_line(deck.text(), begin);
     }
-    if (begin < use.span.end) edits.push_back({{begin, use.span.end}, {}});
+    edits.push_back({{begin, use.span.end}, {}});
 }
 
 /// The first byte of the blanks in front of an item on its line; of two commas around the item, the
@@ -86,7 +86,7 @@ Edit removal(const Deck& deck, const Group& group, const Use& use) {
     const Span with_blanks{gap_begin(deck, group, span), gap_end(deck, group, span.end)};
     const auto [begin, end] = with_blanks;
     const bool is_behind_name = begin == group.body.begin;
-    const bool is_first = !is_behind_name && is_line_end(text[begin - 1]);
+    const bool is_first = is_line_end(text[begin - 1]);
     const bool is_last = end < group.body.end && is_line_end(text[end]);
     if (is_first && is_last) return {{begin, next_line(text, end)}, {}};
     if (is_first) return removal_at_line_begin(deck, group, use, with_blanks);

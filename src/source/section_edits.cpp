@@ -97,11 +97,16 @@ std::string whole_group(const std::string& name, std::string_view text, std::str
 
 void Deck::ensure_section(std::string_view name) {
     const std::string asked = asked_section(name);
-    if (asked.empty() || asked == "DATA" || location(asked)) return;
+    // Not by the queries, which would take one more `$` off the name.
+    const auto is_asked = [&asked](const Group& group) {
+        return is_visible(group) && group.name == asked;
+    };
+    if (asked.empty() || asked == "DATA" || std::ranges::any_of(groups_, is_asked)) return;
     const Edit edit = new_group(*this, asked);
     Deck next{edited_text(text_, {&edit, 1})};
-    const std::vector<Group> made = next.find_all(asked);
-    if (next.groups_.size() != groups_.size() + 1 || made.size() != 1) throw_unreadable(asked);
+    if (next.groups_.size() != groups_.size() + 1 ||
+        std::ranges::count_if(next.groups_, is_asked) != 1)
+        throw_unreadable(asked);
     *this = std::move(next);
 }
 

@@ -35,7 +35,7 @@ std::vector<Part> parts_of(std::string_view text, const Item& keyword) {
     parts.reserve(keyword.words.size());
     std::size_t end = keyword.value.begin;
     for (const Span word : keyword.words) {
-        const Gap gap = parts.empty() ? Gap{} : read_gap(text, {end, word.begin});
+        const Gap gap = read_gap(text, {end, word.begin});
         parts.push_back({gap, text.substr(word.begin, word.size()), word});
         end = word.end;
     }

@@ -21,7 +21,7 @@ std::string value_text(std::string_view text, const Item& keyword) {
     std::string value;
     std::size_t end = keyword.value.begin;
     for (const Span word : keyword.words) {
-        if (!value.empty()) value += read_gap(text, {end, word.begin}).text;
+        value += read_gap(text, {end, word.begin}).text;
         value += text.substr(word.begin, word.size());
         end = word.end;
     }

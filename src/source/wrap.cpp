@@ -93,8 +93,7 @@ private:
 /// The lines of a group that are too long, without the blanks at their ends.
 std::vector<Span> long_lines(std::string_view text, const Group& group, std::size_t columns) {
     std::vector<Span> lines;
-    const std::size_t stop = group.terminator.empty() ? group.body.end : group.terminator.end;
-    for (std::size_t at = line_begin(text, group.header.begin); at < stop;
+    for (std::size_t at = line_begin(text, group.header.begin); at < group.terminator.end;
          at = next_line(text, at)) {
         const Span line = without_trailing_blanks(text, {at, line_end(text, at)});
         if (line.size() > columns) lines.push_back(line);

@@ -62,4 +62,9 @@ TEST_CASE("The span of a card covers the lines it joins") {
     CHECK(card.position == Position{2, 1});
 }
 
+TEST_CASE("A card that goes on with a line of comment covers that line up to the comment") {
+    const Deck deck{" $ECP\nA >\n  ! note\nB\n $END\n"};
+    CHECK(deck.text(deck.items(deck.sections()[0])[0].span) == "A >\n  ");
+}
+
 }  // namespace nurl::input::gamess::source

@@ -77,6 +77,14 @@ TEST_CASE("Groups are found as GAMESS finds them") {
         {"a `$` word inside a keyword group", " $SCF DIRSCF=.T. $GUESS $END\n", "SCF"},
         {"directives of $VB2000", " $VB2000\n$02VBORB\n $MACROITER 2\n $ECONV\n $END\n $SCF $END\n",
          "VB2000 SCF"},
+        {"$END behind another `$`", " $SCF A=1 $$END\n $GUESS $END\n", "SCF GUESS"},
+        {"$REKS behind an $END", " $SCF $END $REKS rexType=1 $END\n", "SCF (REKS)"},
+        {"a `$` word inside a group off column 2", "$SCF A=1 $GUESS B=2 $END\n", "(SCF)"},
+        {"a comment in column 1", " $SCF A=1\n! $END $GUESS\n B=2 $END\n", "SCF"},
+        {"a name behind the line of an $END", " $SCF $END\nthe $GUESS B=2 $END\n", "SCF"},
+        {"a name behind an $END that ends nothing", " $SCF $END\n $END $GUESS B=2 $END\n", "SCF"},
+        {"a name behind a `$` on another line", " $SCF $END\n a $ and $GUESS $END\n", "SCF"},
+        {"a name with a `!` in it", " $A!B C=1 $END\n", "A!B"},
         {"a group after a blank title", " $DATA\n\nC1\n $END\n", "DATA"},
     };
     for (const IndexCase& row : cases) {

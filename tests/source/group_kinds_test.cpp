@@ -35,12 +35,26 @@ TEST_CASE("The name of a group tells how its body is read") {
         {"DIPDR", GroupKind::FixedColumns},  {"VIB", GroupKind::FixedColumns},
         {"VIB2", GroupKind::FixedColumns},   {"MP2RES", GroupKind::FixedColumns},
         {"VB2000", GroupKind::FixedColumns}, {"MP2", GroupKind::Keywords},
+        {"VEC9", GroupKind::FixedColumns},   {"VEC-", GroupKind::Keywords},
         {"DRT2", GroupKind::Keywords},
     });
     for (const KindCase& row : cases) {
         CAPTURE(row.name);
         CHECK(kind_in(" $" + std::string{row.name} + "\n $END\n", row.name) == row.kind);
     }
+}
+
+TEST_CASE("Only BASNAM in $BASIS and FRAGNAME in $EFRAG name groups of cards") {
+    const std::string text =
+        " $BASIS GBASIS=ABC BASNAM=VEC,DATA $END\n $SCF BASNAM=DEF FRAGNAME=GHI $END\n"
+        " $EFRAG FRAGNAME=JKL $END\n $ABC A=1 $END\n $DEF A=1 $END\n $GHI A=1 $END\n"
+        " $JKL\nA\n $END\n $VEC\n $END\n $DATA\n $END\n";
+    CHECK(kind_in(text, "ABC") == GroupKind::Keywords);
+    CHECK(kind_in(text, "DEF") == GroupKind::Keywords);
+    CHECK(kind_in(text, "GHI") == GroupKind::Keywords);
+    CHECK(kind_in(text, "JKL") == GroupKind::FreeFormat);
+    CHECK(kind_in(text, "VEC") == GroupKind::FixedColumns);
+    CHECK(kind_in(text, "DATA") == GroupKind::Data);
 }
 
 TEST_CASE("Groups that BASNAM names hold cards") {

@@ -64,6 +64,9 @@ TEST_CASE("Line ends and comments inside a value become a comma or a space") {
     CHECK(deck.get_keyword("ZMAT", "B") == "1 2");
     CHECK(deck.get_keyword("ZMAT", "C") == "1,2");
     CHECK(deck.get_keyword("ZMAT", "D") == "1 2");
+    const Deck commas_below{" $ZMAT A=1\n ,2 B=1 ! b\n ,2 $END\n"};
+    CHECK(commas_below.get_keyword("ZMAT", "A") == "1,2");
+    CHECK(commas_below.get_keyword("ZMAT", "B") == "1,2");
 }
 
 TEST_CASE("list_keywords gives each keyword once, at its first place, with the value that counts") {

@@ -46,6 +46,7 @@ TEST_CASE("A new line end is like its neighbour") {
     CHECK(line_end_near("a\r\nb", 0) == "\r\n");
     CHECK(line_end_near("a\r\nb", 3) == "\r\n");
     CHECK(line_end_near("a\rb", 2) == "\r");
+    CHECK(line_end_near("a\r\rb", 3) == "\r");
     CHECK(line_end_near("a\nb", 2) == "\n");
     CHECK(line_end_near("a\r\n\nb", 4) == "\n");
     CHECK(line_end_near("\na", 1) == "\n");

@@ -26,6 +26,7 @@ TEST_CASE("A keyword goes with what separates it from the one before") {
         {"one between commas", " $SCF B=1, A=2, C=3 $END\n", " $SCF B=1, C=3 $END\n"},
         {"one behind a comma", " $SCF B=1, A=2 $END\n", " $SCF B=1, $END\n"},
         {"one between a comma and another", " $SCF B=1, A=2 C=3 $END\n", " $SCF B=1, C=3 $END\n"},
+        {"one in front of a comma", " $SCF B=1 A=2, C=3 $END\n", " $SCF B=1, C=3 $END\n"},
         {"one behind a comma, glued", " $SCF B=1, A=2$END\n", " $SCF B=1,$END\n"},
         {"the first", " $SCF A=2 B=1 $END\n", " $SCF B=1 $END\n"},
         {"the first with a comma", " $SCF A=2,B=1 $END\n", " $SCF B=1 $END\n"},
@@ -40,6 +41,9 @@ TEST_CASE("A keyword goes with what separates it from the one before") {
         {"the first of a line, before a comment", " $SCF\n  A=2 ! two\n $END\n",
          " $SCF\n  ! two\n $END\n"},
         {"a line shared with $END", " $SCF B=1\n  A=2 $END\n", " $SCF B=1 $END\n"},
+        {"a line shared with $END, 80 columns with the one before",
+         " $SCF B=" + std::string(67, '1') + "\n  A=2 $END\n",
+         " $SCF B=" + std::string(67, '1') + " $END\n"},
         {"a line shared with $END behind a blank line", " $SCF B=1\n\n  A=2 $END\n",
          " $SCF B=1\n\n  $END\n"},
         {"a line shared with $END behind a comment", " $SCF B=1 ! b\n  A=2 $END\n",
@@ -86,6 +90,23 @@ TEST_CASE("A keyword whose removal would change another one stays") {
 TEST_CASE("A line that $END would make longer than 80 columns keeps its end") {
     const std::string full = " $SCF B=" + std::string(72, '1');
     CHECK(nurl::test::after_removal(full + "\n A=2 $END\n", "SCF", "A") == full + "\n $END\n");
+}
+
+TEST_CASE("A comma at the end of the name of a group stays") {
+    CHECK(nurl::test::after_removal(" $X, A=1 , B=2 $END\n", "X,", "A") == " $X, , B=2 $END\n");
+}
+
+TEST_CASE("A keyword stays when others would come in another order without it") {
+    Deck deck{" $SCF X A=1=0 Y=0 X=0 $END\n"};
+    CHECK_THROWS_WITH_AS(deck.remove_keyword("SCF", "A"), "Keyword cannot be removed by itself: A",
+                         std::runtime_error);
+    CHECK(deck.text() == " $SCF X A=1=0 Y=0 X=0 $END\n");
+}
+
+TEST_CASE("Nothing is found or removed by an empty name") {
+    Deck deck{" $SCF A=1 ! note ! $END\n"};
+    CHECK_FALSE(deck.remove_keyword("SCF", " "));
+    CHECK_FALSE(deck.get_keyword("SCF", "").has_value());
 }
 
 }  // namespace nurl::input::gamess::source

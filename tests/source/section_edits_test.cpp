@@ -48,6 +48,35 @@ TEST_CASE("A new group follows letter case and line ends") {
     CHECK(after_ensure(" $Z~ $END\n $az $END\n", "SCF") == " $Z~ $END\n $az $END\n $scf $end\n");
 }
 
+TEST_CASE("A new group stands in front of a $DATA that other groups follow") {
+    Deck deck{" $SCF $END\n $DATA\nt\nC1\n $END\n $VEC\n 1\n $END\n"};
+    deck.ensure_section("GUESS");
+    CHECK(deck.text() == " $SCF $END\n $GUESS $END\n $DATA\nt\nC1\n $END\n $VEC\n 1\n $END\n");
+}
+
+TEST_CASE("Every small letter makes a new group small") {
+    for (const char letter : {'a', 'z'}) {
+        const std::string text = " $" + std::string{letter} + " $END\n";
+        Deck deck{text};
+        deck.ensure_section("SCF");
+        CHECK(deck.text() == text + " $scf $end\n");
+    }
+}
+
+TEST_CASE("A new group that would hide another one is refused") {
+    const std::string text = " $SCF $END $GUESS\n A=1 $END $BASIS $END\n";
+    Deck deck{text};
+    CHECK_THROWS_WITH_AS(deck.ensure_section("DFT"), "Section cannot be read back: DFT",
+                         std::runtime_error);
+    CHECK(deck.text() == text);
+}
+
+TEST_CASE("A new group goes on a line of its own behind a text of one byte") {
+    Deck deck{"x"};
+    deck.ensure_section("SCF");
+    CHECK(deck.text() == "x\n $SCF $END\n");
+}
+
 TEST_CASE("Without a $DATA a new group goes behind the last one") {
     CHECK(after_ensure("", "SCF") == " $SCF $END\n");
     CHECK(after_ensure("note", "SCF") == "note\n $SCF $END\n");

@@ -6,6 +6,7 @@
 
 #include "nurl/input/gamess/source/deck.hpp"
 #include "source/edited.hpp"
+#include "source/value_edit.hpp"
 
 namespace nurl::input::gamess::source {
 
@@ -47,6 +48,7 @@ TEST_CASE("Setting a value replaces its bytes where the value that counts stands
         {"the first element", " $SCF A(1)=1 $END\n", "A", "3", " $SCF A(1)=3 $END\n"},
         {"another element", " $SCF A(2)=1 $END\n", "A(2)", "3", " $SCF A(2)=3 $END\n"},
         {"the same value", " $SCF A=1 $END\n", "A", "1", " $SCF A=1 $END\n"},
+        {"a group that the text ends", " $SCF A=1", "A", "2", " $SCF A=2"},
         {"a group without $END", " $SCF A=1\n $DATA\n $END\n", "A", "2",
          " $SCF A=2\n $DATA\n $END\n"},
     });
@@ -203,6 +205,31 @@ TEST_CASE("add_keyword leaves a keyword that is there alone unless told to repla
     CHECK(deck.add_keyword("SCF", "A", "2", true));
     CHECK(deck.add_keyword("SCF", "B", "3", false));
     CHECK(deck.text() == " $SCF A=2 B=3 $END\n");
+}
+
+TEST_CASE("Lines of up to 80 columns are left alone, whatever follows $END") {
+    const std::string filler = " B=" + std::string(63, '1');
+    check_all({
+        {"a line that gets too long", " $SCF A=1" + filler + " $END\n", "A", "22",
+         " $SCF A=22" + filler + "\n $END\n"},
+        {"80 columns and a note", " $SCF A=1" + filler + " $END note\n", "A", "2",
+         " $SCF A=2" + filler + " $END note\n"},
+        {"a short line and a long note", " $SCF A=1 $END " + std::string(70, 'x') + "\n", "A", "2",
+         " $SCF A=2 $END " + std::string(70, 'x') + "\n"},
+    });
+}
+
+TEST_CASE("A value that a quote further on would change is refused") {
+    CHECK(after_set(" $SCF A=1 = 'x $END\n", "SCF", "A", "'") ==
+          "refused: Value cannot be read back: '");
+}
+
+TEST_CASE("Values are the same when their words are, and the commas between them") {
+    CHECK(same_value("1, 2", "1,2"));
+    CHECK(same_value("1  2", "1 2"));
+    CHECK_FALSE(same_value("1 2", "1,2"));
+    CHECK_FALSE(same_value("12", "1 2"));
+    CHECK_FALSE(same_value("12", "1,2"));
 }
 
 }  // namespace nurl::input::gamess::source

@@ -41,5 +41,8 @@ TEST_CASE("A repeated group is found at its second copy, saying which copy count
          {"numbered ones", " $VEC1\n $END\n $VEC2\n $END\n", {}},
          {"one that is not found", "$SCF $END\n $SCF $END\n", {}},
          {"meant to be repeated", " $FCM\n $END\n $FCM\n $END\n", {}},
+         {"named by BASNAM",
+          " $BASIS BASNAM(1)=MINE $END\n $MINE\nx\n $END\n $MINE\nx\n $END\n",
+          {"5:2 $MINE stands in line 2" + first}},
          {"unknown", " $XYZZY $END\n $XYZZY $END\n", {}}});
 }

@@ -43,6 +43,7 @@ TEST_CASE("A header line of 80 columns is not pushed beyond them") {
     CHECK(fixed(text, "header-column") == text);
     const std::string shorter = "$SCF" + std::string(71, ' ') + "$END  \n";
     CHECK(fixed(shorter, "header-column") == ' ' + shorter);
+    CHECK(fixed("  " + text, "header-column") == ' ' + text);
 }
 
 TEST_CASE("A group behind the $END of another one is found") {
@@ -105,7 +106,7 @@ TEST_CASE("A missing $END is put behind the last keyword where that is certain")
 TEST_CASE("A missing $END is left to the author where it is not certain") {
     for (const std::string text :
          {" $SCF CONV=1\n\n some prose\n", " $SCF CONV=1\n\n prose = more\n", " $SCF words\n",
-          " $MINE A=1\n", " $MINE\n", " $DATA\nt\nC1\n"}) {
+          " $SCF CONV=1 word\n", " $MINE A=1\n", " $MINE\n", " $DATA\nt\nC1\n"}) {
         CAPTURE(text);
         CHECK(found(text, "missing-end").size() == 1);
         CHECK(fixed(text, "missing-end") == text);

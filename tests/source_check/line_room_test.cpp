@@ -10,6 +10,7 @@ TEST_CASE("A line has room up to column 80, blanks at its end not counted") {
     CHECK_FALSE(fits(deck, line_around(deck, 0), 3));
     CHECK(fits(deck, line_around(deck, 81), 80));
     CHECK_FALSE(fits(deck, line_around(deck, 81), 81));
+    CHECK_FALSE(fits(Deck{"a   "}, {2, 4}, 81));
 }
 
 TEST_CASE("A line is found from any of its bytes") {
@@ -34,10 +35,12 @@ TEST_CASE("The line end before a line is the one that stands there") {
     CHECK(line_end_before(Deck{"\nb\r\n"}, 1) == "\n");
     CHECK(line_end_before(Deck{"\r\nb\n"}, 2) == "\r\n");
     CHECK(line_end_before(Deck{"\n\nb"}, 2) == "\n");
+    CHECK(line_end_before(Deck{"a\r\rb"}, 3) == "\r");
 }
 
 TEST_CASE("The line end before the first line is that of the deck") {
     CHECK(line_end_before(Deck{"a\r\nb\n"}, 0) == "\r\n");
+    CHECK(line_end_before(Deck{"\nb\r\n"}, 0) == "\n");
     CHECK(line_end_before(Deck{"a"}, 0) == "\n");
 }
 

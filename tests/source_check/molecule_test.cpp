@@ -1,8 +1,11 @@
+#include <algorithm>
+
 #include <doctest/doctest.h>
 
 #include "source_check/found.hpp"
 
 using namespace nurl::test;
+using namespace nurl::input::gamess::source;
 
 namespace {
 
@@ -54,11 +57,21 @@ TEST_CASE("A blank card behind C1 is found and removed") {
                 {"a comment", with_basis("C1\n! x\n" + oxygen), {}},
                 {"between atoms", with_basis("C1\n" + oxygen + "\n" + oxygen), {}},
                 {"behind another point group", with_basis("CS\n\n" + oxygen), {}},
+                {"two behind another point group", with_basis("CS\n\n\n" + oxygen), {}},
                 {"no atoms", with_basis("C1\n\n"), {}}});
     CHECK(fixed(with_basis("C1\n \n\n" + oxygen), "blank-card-after-c1") ==
           with_basis("C1\n" + oxygen));
     CHECK(fixed(with_basis("C1\n;;\n" + oxygen), "blank-card-after-c1") ==
           with_basis("C1\n" + oxygen));
+}
+
+TEST_CASE("One fix removes all blank cards behind C1") {
+    Deck deck{with_basis("C1\n \n\n" + oxygen)};
+    const std::vector<Finding> findings = check(deck);
+    const auto hit = std::ranges::find(findings, "blank-card-after-c1", &Finding::rule);
+    REQUIRE(hit != findings.end());
+    deck.apply(hit->fix);
+    CHECK(deck.text() == with_basis("C1\n" + oxygen));
 }
 
 TEST_CASE("A basis set that no blank card closes is found at what follows it") {

@@ -26,6 +26,8 @@ TEST_CASE("The nearest known names are asked for") {
         {"another letter", "MULP", "did you mean MULT?"},
         {"two neighbours exchanged", "RUTNYP", "did you mean RUNTYP?"},
         {"exchanged in a short name", "MUTL", "did you mean MULT?"},
+        {"the first two letters exchanged", "UMLT", "did you mean MULT?"},
+        {"a letter one place further on", "XMLT", ""},
         {"two changes", "SCFTIPE", "did you mean SCFTYP?"},
         {"three changes", "SCFTIPES", ""},
         {"two changes in a short name", "MUPP", ""},
@@ -37,7 +39,10 @@ TEST_CASE("The nearest known names are asked for") {
         {"an empty word", "", ""},
         {"a word of 23 letters", std::string(23, 'B'),
          "did you mean " + std::string(24, 'B') + "?"},
-        {"a word of 24 letters", std::string(24, 'A'), ""},
+        {"a word of 24 letters", std::string(23, 'B') + 'C',
+         "did you mean " + std::string(24, 'B') + "?"},
+        {"a word of 25 letters", std::string(25, 'B'), ""},
+        {"24 letters that are near to a longer name alone", std::string(24, 'A'), ""},
         {"a word of 26 letters", std::string(26, 'A'), ""},
     };
     for (const NearRow& row : rows) {

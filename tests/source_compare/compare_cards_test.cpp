@@ -43,6 +43,8 @@ TEST_CASE("What is missing between commas counts in a card") {
     CHECK(in_group("ECP", ",A\n", "A\n").size() == 1);
     CHECK(in_group("ECP", "A,,\n", "A\n").size() == 1);
     CHECK(in_group("ECP", ",\n", "\n").size() == 1);
+    CHECK(in_group("ECP", "A > ! , ! ,\n,\n", "A\n") == Lines{});
+    CHECK(in_group("ECP", "A 1 0\n", "A 1\n").size() == 1);
     CHECK(in_group("ECP", "A, > ! , , ! ,\n 2\n", "A 2\n") == Lines{});
 }
 
@@ -57,6 +59,9 @@ TEST_CASE("One card more or less is one difference") {
                                                              "line ECP: - -> \"Y\"@6:1"});
     CHECK(in_group("ECP", "B\nA\nA\nC\n", "B\nX\nA\nD\n") ==
           Lines{"line ECP: \"A\"@3:1 -> \"X\"@3:1", "line ECP: \"C\"@5:1 -> \"D\"@5:1"});
+    CHECK(in_group("ECP", "A\nA\n", "A\n") == Lines{"line ECP: \"A\"@3:1 -> -"});
+    CHECK(in_group("ECP", "X\nA\nB\n", "A\nA\nC\n") ==
+          Lines{"line ECP: \"X\"@2:1 -> \"A\"@2:1", "line ECP: \"B\"@4:1 -> \"C\"@4:1"});
 }
 
 TEST_CASE("Fixed columns are compared byte by byte, line ends aside") {

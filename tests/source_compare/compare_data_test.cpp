@@ -31,6 +31,8 @@ TEST_CASE("The title counts but for blanks at its end") {
     CHECK(in_data("a\nC1\n", "a \t\nC1\n", with_basis) == Lines{});
     CHECK(in_data("a\nC1\n", "A\nC1\n", with_basis) ==
           Lines{"line DATA title: \"a\"@2:1 -> \"A\"@2:1"});
+    CHECK(in_data("a \t\nC1\n", "b\nC1\n", with_basis) ==
+          Lines{"line DATA title: \"a\"@2:1 -> \"b\"@2:1"});
     CHECK(in_data("\nC1\n", "a\nC1\n", with_basis) ==
           Lines{"line DATA title: \"\"@2:1 -> \"a\"@2:1"});
 }
@@ -137,6 +139,17 @@ TEST_CASE("Where no molecule is read, its cards are compared all the same") {
 TEST_CASE("A title on the line of the header is not one on a line of its own") {
     CHECK(differences(" $DATA a\nC1\n $END\n", " $DATA\na\nC1\n $END\n") ==
           Lines{"line DATA title: \"$DATA a\"@1:7 -> \"a\"@2:1"});
+}
+
+TEST_CASE("Every `=` separates the name of a variable from its value") {
+    const std::string atoms = "a\nC1\nO\nH 1 R\n\n";
+    CHECK(in_data(atoms + "R==0.9=\n", atoms + "R 0.9\n", z_matrix) == Lines{});
+}
+
+TEST_CASE("A blank card behind the basis set of an atom counts where a later atom has none") {
+    CHECK(in_data("a\nC1\nH 1.0 0 0 0\nN31 6\n\n\nH 1.0 0 0 1\n",
+                  "a\nC1\nH 1.0 0 0 0\nN31 6\n\nH 1.0 0 0 1\n",
+                  "") == Lines{"line DATA card: \"\"@7:1 -> -"});
 }
 
 }  // namespace nurl::test

@@ -47,6 +47,11 @@ TEST_CASE("Groups come in the order of the first deck, then of the second") {
                 "group D: - -> \"$D\"@3:2"});
 }
 
+TEST_CASE("A group that one of the decks names as one of cards is compared as such") {
+    CHECK(differences(" $H\nN31 6\n $END\n", " $BASIS BASNAM=H $END\n $H\nn31 6\n $END\n") ==
+          Lines{"line H: \"N31 6\"@2:1 -> \"n31 6\"@3:1", "group BASIS: - -> \"$BASIS\"@1:2"});
+}
+
 TEST_CASE("Copies of a group without keywords are compared one by one") {
     const std::string one = " $FCM\n 1 2\n $END\n";
     const std::string other = " $FCM\n 1 3\n $END\n";

@@ -164,4 +164,27 @@ TEST_CASE("In $QUANPO a list goes on only behind the sign for it") {
     CHECK(in_group("QUANPO", "NFIXMM=1 MAXIT=1", "NFIXMM=1\n MAXIT=1") == Lines{});
 }
 
+TEST_CASE("An index is digits, nine at the most") {
+    CHECK(in_group("SCF", "A=1 A(-1)=2", "A=1") == Lines{"keyword SCF A(-1): \"2\"@1:11 -> -"});
+    CHECK(in_group("SCF", "A(000000002)=2", "A(2)=2") == Lines{});
+    CHECK(in_group("SCF", "A(0000000002)=2", "A(2)=2") ==
+          Lines{"keyword SCF A(0000000002): \"2\"@1:7 -> -", "keyword SCF A(2): - -> \"2\"@1:7"});
+}
+
+TEST_CASE("Elements that differ are shown where the first of them stands") {
+    CHECK(in_group("SCF", "A(1)=1 A(2)=2", "A(1)=3 A(2)=4") ==
+          Lines{"keyword SCF A(1): \"1,2\"@1:7 -> \"3,4\"@1:7"});
+    CHECK(in_group("SCF", "A(1)=1,2 A(3)=3", "A=1") == Lines{"keyword SCF A(2): \"2,3\"@1:7 -> -"});
+}
+
+TEST_CASE("A keyword whose last copy has no value is shown as it is written there") {
+    CHECK(in_group("SCF", "A= A=", "A=1") == Lines{"keyword SCF A: \"\"@1:10 -> \"1\"@1:7"});
+    CHECK(in_group("SCF", "A(2)=5 A(3)=", "A(2)=5") ==
+          Lines{"keyword SCF A(3): \"\"@1:14 -> \"5\"@1:7"});
+}
+
+TEST_CASE("Two lone CR behind a `>` are a line end with a `>` and one without") {
+    CHECK(differences(" $QUANPO A=1 >\r\r 2 $END\r", " $QUANPO A=1\r 2 $END\r") == Lines{});
+}
+
 }  // namespace nurl::test

@@ -211,6 +211,13 @@ TEST_CASE("The groups of the two components have Cartesian atoms with a basis se
           Lines{"title: t", "point group: C1", "atom: O 8.0", "basis:  S 1", "close: "});
 }
 
+TEST_CASE("A blank card between the atoms of a component does not end them, whatever COORD says") {
+    CHECK(shown(Deck{with_basis +
+                     " $CONTRL COORD=ZMT $END\n $DATAL\nt\nC1\nO 8.0\n S 1\n\n\nH 1.0\n $END\n"}) ==
+          Lines{"title: t", "point group: C1", "atom: O 8.0", "basis:  S 1",
+                "close: ", "atom: H 1.0", "rest: "});
+}
+
 TEST_CASE("A group that stops early has what it has") {
     CHECK(layout_of("", "").empty());
     CHECK(layout_of("", "t\n") == Lines{"title: t"});

@@ -101,6 +101,7 @@ TEST_CASE("Words that stand for something else are not the same") {
                                                 {"'A'", "A"},
                                                 {"'1'", "1"},
                                                 {"\"A\"", "'A'"},
+                                                {"\"A\"", "\"a\""},
                                                 {"\xC3\xA9", "\xC3\x89"}});
     for (const Pair& pair : pairs) CHECK_MESSAGE(!is_same(pair), pair.a, " and ", pair.b);
 }

@@ -169,4 +169,51 @@ TEST_CASE("A group that is not closed is folded up to where it ends") {
           " $SCF AAA=1\n BBB=2\n $DATA\na title\n $END\n");
 }
 
+TEST_CASE("Folded lines of a group are indented like its header") {
+    const std::string a = "A=" + std::string(40, '1');
+    const std::string b = "B=" + std::string(40, '2');
+    CHECK(wrapped("   $REKS " + a + " " + b + " $END\n") ==
+          "   $REKS " + a + "\n   " + b + " $END\n");
+}
+
+TEST_CASE("Many values are kept behind their names") {
+    const std::string ab = " $SCF A=" + std::string(30, '1') + " B=" + std::string(30, '2');
+    const std::string c = " C=" + std::string(75, '3');
+    CHECK(wrapped(ab + c + " D=1 $END\n") == ab + "\n" + c + "\n D=1 $END\n");
+    const std::string value(74, '1');
+    CHECK(wrapped(" $SCF A= " + value + " B= " + value + " C= " + value + " D= " + value +
+                  " $END\n") == " $SCF\n A= " + value + "\n B= " + value + "\n C= " + value +
+                                    "\n D= " + value + "\n $END\n");
+}
+
+TEST_CASE("A line of 80 columns is not folded, even one that cannot be glued") {
+    const std::string text = " $QUANPO A=" + std::string(67, '1') + ",2\n $END\n";
+    CHECK(wrapped(text) == text);
+}
+
+TEST_CASE("A comment at the end of a group without $END is not glued") {
+    const std::string a = " $QUANPO A=" + std::string(60, '1');
+    const std::string note = " ! " + std::string(20, 'c') + "\n";
+    CHECK(wrapped(a + note) == a + "\n" + note);
+}
+
+TEST_CASE("What follows $END does not keep it from its own line, whatever it ends with") {
+    const std::string a = " $SCF A=" + std::string(70, '1');
+    const std::string end = " $END " + std::string(80, 'x') + ">\n";
+    CHECK(wrapped(a + end) == a + "\n" + end);
+}
+
+TEST_CASE("A word with its comma that is too long for any line stays where it is") {
+    const std::string text = " $SCF B= " + std::string(79, '1') + ",\n C=2 $END\n";
+    CHECK(wrapped(text) == text);
+}
+
+TEST_CASE("A `>` is a word like others where lines are not glued, and so is one with more in it") {
+    const std::string scf = " $SCF A=" + std::string(72, '1');
+    CHECK(wrapped(scf + " > 2 $END\n") == scf + "\n > 2 $END\n");
+    const std::string a = " A=" + std::string(72, '1');
+    CHECK(wrapped(" $QUANPO" + a + " >BBBBBBBBBB $END\n") ==
+          " $QUANPO\n" + a + " >\n >BBBBBBBBBB $END\n");
+}
+
 }  // namespace nurl::test

@@ -96,8 +96,7 @@ Span electron_place(const Context& context) {
 }  // namespace
 
 void find_electron_count(const Context& context, Findings& findings) {
-    if (context.data() == nullptr || !lists_all_atoms(context) || has_other_electrons(context))
-        return;
+    if (!lists_all_atoms(context) || has_other_electrons(context)) return;
     const auto charges = total_charge(context);
     const auto charge = control_number(context, "ICHARG", 0);
     const auto multiplicity = control_number(context, "MULT", 1);

@@ -149,8 +149,7 @@ void find_second_group(const Context& context, Findings& findings) {
     const Group* before = nullptr;
     for (const Group& group : deck.sections()) {
         const Group* const previous = std::exchange(before, &group);
-        if (group.visible || previous == nullptr || !follows_on_line(deck, *previous, group))
-            continue;
+        if (previous == nullptr || !follows_on_line(deck, *previous, group)) continue;
         const Span gap{previous->terminator.end, group.header.begin};
         findings.add(group.header,
                      "GAMESS does not find $" + group.name + " behind the $END of $" +

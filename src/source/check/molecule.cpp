@@ -89,7 +89,7 @@ void check_end_of_basis(const Context& context, const AtomCards& atom, Findings&
 void find_missing_blank_card(const Context& context, Findings& findings) {
     const Deck& deck = context.deck();
     const DataLayout& layout = context.layout();
-    if (!layout.point_group || layout.point_group->words.empty() || layout.atoms.empty()) return;
+    if (layout.atoms.empty() || layout.point_group->words.empty()) return;
     if (is_c1(deck, *layout.point_group) || !layout.axis.empty()) return;
     const Item& atom = layout.atoms.front().card;
     findings.add(atom.span,
@@ -101,7 +101,7 @@ void find_missing_blank_card(const Context& context, Findings& findings) {
 void find_blank_card_after_c1(const Context& context, Findings& findings) {
     const Deck& deck = context.deck();
     const DataLayout& layout = context.layout();
-    if (!layout.point_group || layout.atoms.empty() || !is_c1(deck, *layout.point_group)) return;
+    if (layout.atoms.empty() || !is_c1(deck, *layout.point_group)) return;
     const std::size_t first_atom = layout.atoms.front().card.span.begin;
     std::vector<Edit> fix;
     std::size_t removed = 0;  // up to here

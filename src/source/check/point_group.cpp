@@ -54,7 +54,7 @@ std::string in_other_notation(std::string_view name) {
     if (last && bare != nullptr && bare->needs_order)
         return std::string{bare->name} + ' ' + name.back();
     const auto order = order_of(name[1]);
-    if (!order || (name.front() != 'C' && name.front() != 'D')) return {};
+    if (!order) return {};
     const std::string general = std::string{name.front()} + 'N' + std::string{name.substr(2)};
     if (find_name(general) == nullptr) return {};
     return general + ' ' + name[1];
@@ -63,8 +63,6 @@ std::string in_other_notation(std::string_view name) {
 }  // namespace
 
 PointGroupName read_point_group(std::string_view word) {
-    constexpr std::size_t longest = 8;
-    if (word.size() > longest) return {};
     const std::string name = core::text::to_upper_copy(word);
     if (const KnownName* const known = find_name(name)) return {true, known->needs_order, {}};
     return {false, false, in_other_notation(name)};
