@@ -24,4 +24,4 @@ build_in "$work/another/folder"
 diff -r "$work/one/installed" "$work/another/folder/installed"
 echo "reproducible: $(find "$work/one/installed" -type f | wc -l) files are the same"
 python3 -B scripts/checks/hardening.py --optimised \
-    "$work"/one/installed/usr/lib/*/libnurl_gms_inp.so "$work/one/installed/usr/bin/gms-inp"
+    "$(find "$work/one/installed" -name libnurl_gms_inp.so)" "$work/one/installed/usr/bin/gms-inp"
