@@ -8,29 +8,11 @@
 
 namespace nurl::input::gamess::source {
 
-namespace {
-
 using nurl::test::after_set;
-
-struct AdditionCase {
-    const char* name;
-    std::string before;
-    std::string key;
-    std::string value;
-    std::string after;
-};
-
-void check_all(const std::vector<AdditionCase>& cases) {
-    for (const AdditionCase& row : cases) {
-        CAPTURE(row.name);
-        CHECK(after_set(row.before, "SCF", row.key, row.value) == row.after);
-    }
-}
-
-}  // namespace
+using nurl::test::check_settings;
 
 TEST_CASE("A new keyword goes behind the last one") {
-    check_all({
+    check_settings({
         {"on the line of $END", " $SCF A=1 $END\n", "B", "2", " $SCF A=1 B=2 $END\n"},
         {"in front of a glued $END", " $SCF A=1$END\n", "B", "2", " $SCF A=1 B=2$END\n"},
         {"behind a trailing comma", " $SCF A=1, $END\n", "B", "2", " $SCF A=1, B=2 $END\n"},
@@ -76,7 +58,7 @@ TEST_CASE("A new keyword goes on the line of a header in column 1") {
 }
 
 TEST_CASE("A new keyword gets a line of its own where the others have one") {
-    check_all({
+    check_settings({
         {"a column", " $SCF\n   A=1\n   C=2\n $END\n", "B", "2",
          " $SCF\n   A=1\n   C=2\n   B=2\n $END\n"},
         {"a column with CR LF", " $SCF\r\n\tA=1\r\n $END\r\n", "B", "2",

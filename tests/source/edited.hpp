@@ -5,6 +5,9 @@
 #include <exception>
 #include <string>
 #include <string_view>
+#include <vector>
+
+#include <doctest/doctest.h>
 
 #include "nurl/input/gamess/source/deck.hpp"
 
@@ -20,6 +23,22 @@ namespace nurl::test {
         return deck.text() == text ? "refused: " + std::string{error.what()} : "changed and threw";
     }
     return deck.text();
+}
+
+/// A deck and what it is once a keyword of `$SCF` is set.
+struct SetCase {
+    const char* name;
+    std::string before;
+    std::string key;
+    std::string value;
+    std::string after;  ///< as `after_set` gives it
+};
+
+inline void check_settings(const std::vector<SetCase>& cases) {
+    for (const SetCase& row : cases) {
+        CAPTURE(row.name);
+        CHECK(after_set(row.before, "SCF", row.key, row.value) == row.after);
+    }
 }
 
 /// The text of a deck with one keyword removed.

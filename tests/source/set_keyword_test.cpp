@@ -10,29 +10,11 @@
 
 namespace nurl::input::gamess::source {
 
-namespace {
-
 using nurl::test::after_set;
-
-struct SetCase {
-    const char* name;
-    std::string before;
-    std::string key;
-    std::string value;
-    std::string after;
-};
-
-void check_all(const std::vector<SetCase>& cases) {
-    for (const SetCase& row : cases) {
-        CAPTURE(row.name);
-        CHECK(after_set(row.before, "SCF", row.key, row.value) == row.after);
-    }
-}
-
-}  // namespace
+using nurl::test::check_settings;
 
 TEST_CASE("Setting a value replaces its bytes where the value that counts stands") {
-    check_all({
+    check_settings({
         {"one value", " $SCF A=1  B=2 $END\n", "A", "17", " $SCF A=17  B=2 $END\n"},
         {"any case of the name", " $scf a=1 $end\n", "A", "2", " $scf a=2 $end\n"},
         {"blanks around it", " $SCF A = 1 $END\n", "A", " 2\t", " $SCF A = 2 $END\n"},
@@ -55,7 +37,7 @@ TEST_CASE("Setting a value replaces its bytes where the value that counts stands
 }
 
 TEST_CASE("Words of a list that stay the same keep their bytes and their layout") {
-    check_all({
+    check_settings({
         {"one of many", " $SCF A=1,2,\n   3,  4 $END\n", "A", "1,2,5,  4",
          " $SCF A=1,2,\n   5,  4 $END\n"},
         {"two of many", " $SCF A=1, ! one\n 2,3 $END\n", "A", "7,2,8",
@@ -78,7 +60,7 @@ TEST_CASE("Words of a list that stay the same keep their bytes and their layout"
 }
 
 TEST_CASE("Comments between words that go follow those that come") {
-    check_all({
+    check_settings({
         {"a closed one", " $SCF A=1,2, ! two !3 B=1 $END\n", "A", "9",
          " $SCF A=9 ! two ! B=1 $END\n"},
         {"an open one", " $SCF A=1, ! one\n  2,3 B=1 $END\n", "A", "9",
@@ -209,7 +191,7 @@ TEST_CASE("add_keyword leaves a keyword that is there alone unless told to repla
 
 TEST_CASE("Lines of up to 80 columns are left alone, whatever follows $END") {
     const std::string filler = " B=" + std::string(63, '1');
-    check_all({
+    check_settings({
         {"a line that gets too long", " $SCF A=1" + filler + " $END\n", "A", "22",
          " $SCF A=22" + filler + "\n $END\n"},
         {"80 columns and a note", " $SCF A=1" + filler + " $END note\n", "A", "2",
