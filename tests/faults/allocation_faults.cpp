@@ -1,9 +1,11 @@
 #include "faults/allocation_faults.hpp"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdio>
 #include <cstdlib>
-#include <new>
+
+#include "support/own_new.hpp"
 
 namespace nurl::test {
 
@@ -55,8 +57,10 @@ bool is_to_fail() noexcept {
     return true;
 }
 
+}  // namespace
+
 // NOLINTBEGIN(cppcoreguidelines-no-malloc,cppcoreguidelines-owning-memory): these are the owners
-void* allocate(std::size_t size, std::size_t alignment) noexcept {
+void* allocate_block(std::size_t size, std::size_t alignment) noexcept {
     if (is_to_fail()) return nullptr;
     const std::size_t blocks = std::max<std::size_t>(1, (size + alignment - 1) / alignment);
     void* const block = alignment <= alignof(std::max_align_t)
@@ -66,25 +70,12 @@ void* allocate(std::size_t size, std::size_t alignment) noexcept {
     return block;
 }
 
-void release(void* block) noexcept {
+void release_block(void* block, std::size_t /*alignment*/) noexcept {
     if (block == nullptr) return;
     --allocator().live;
     std::free(block);
 }
 // NOLINTEND(cppcoreguidelines-no-malloc,cppcoreguidelines-owning-memory)
-
-void* allocate_or_throw(std::size_t size, std::size_t alignment) {
-    if (void* const block = allocate(size, alignment)) return block;
-    throw std::bad_alloc();
-}
-
-constexpr std::size_t usual = alignof(std::max_align_t);
-
-constexpr std::size_t number(std::align_val_t alignment) noexcept {
-    return static_cast<std::size_t>(alignment);
-}
-
-}  // namespace
 
 long live_blocks() noexcept { return allocator().live; }
 
@@ -105,57 +96,3 @@ AllocationFault::~AllocationFault() {
 bool AllocationFault::was_met() const noexcept { return allocator().met; }
 
 }  // namespace nurl::test
-
-using nurl::test::allocate;
-using nurl::test::allocate_or_throw;
-using nurl::test::number;
-using nurl::test::release;
-using nurl::test::usual;
-
-// NOLINTBEGIN(misc-new-delete-overloads): each has its counterpart further down
-void* operator new(std::size_t size) { return allocate_or_throw(size, usual); }
-void* operator new[](std::size_t size) { return allocate_or_throw(size, usual); }
-void* operator new(std::size_t size, std::align_val_t alignment) {
-    return allocate_or_throw(size, number(alignment));
-}
-void* operator new[](std::size_t size, std::align_val_t alignment) {
-    return allocate_or_throw(size, number(alignment));
-}
-void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
-    return allocate(size, usual);
-}
-void* operator new[](std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
-    return allocate(size, usual);
-}
-void* operator new(std::size_t size, std::align_val_t alignment,
-                   const std::nothrow_t& /*tag*/) noexcept {
-    return allocate(size, number(alignment));
-}
-void* operator new[](std::size_t size, std::align_val_t alignment,
-                     const std::nothrow_t& /*tag*/) noexcept {
-    return allocate(size, number(alignment));
-}
-
-void operator delete(void* block) noexcept { release(block); }
-void operator delete[](void* block) noexcept { release(block); }
-void operator delete(void* block, std::size_t /*size*/) noexcept { release(block); }
-void operator delete[](void* block, std::size_t /*size*/) noexcept { release(block); }
-void operator delete(void* block, std::align_val_t /*alignment*/) noexcept { release(block); }
-void operator delete[](void* block, std::align_val_t /*alignment*/) noexcept { release(block); }
-void operator delete(void* block, std::size_t /*size*/, std::align_val_t /*alignment*/) noexcept {
-    release(block);
-}
-void operator delete[](void* block, std::size_t /*size*/, std::align_val_t /*alignment*/) noexcept {
-    release(block);
-}
-void operator delete(void* block, const std::nothrow_t& /*tag*/) noexcept { release(block); }
-void operator delete[](void* block, const std::nothrow_t& /*tag*/) noexcept { release(block); }
-void operator delete(void* block, std::align_val_t /*alignment*/,
-                     const std::nothrow_t& /*tag*/) noexcept {
-    release(block);
-}
-void operator delete[](void* block, std::align_val_t /*alignment*/,
-                       const std::nothrow_t& /*tag*/) noexcept {
-    release(block);
-}
-// NOLINTEND(misc-new-delete-overloads)
