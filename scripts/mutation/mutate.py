@@ -19,8 +19,9 @@ inside each other. The mutants:
 A comparison that the compiler makes of another operator (`a != b` of `==`, `a < b` of `<=>`) shows the tree of that
 other one, with parts that stand nowhere in the text; such parts are passed over.
 
-What the compiler computes is left alone: case labels, static_assert, enumerators, constexpr variables, macros. So is
-what only makes room in a container, or reckons how much: it changes no result, and tests/bounds measures it."""
+What the compiler computes is left alone: case labels, static_assert, enumerators, constexpr variables, consteval
+functions, types, macros. So is what only makes room in a container, or reckons how much: it changes no result, and
+tests/bounds measures it."""
 import multiprocessing
 import os
 import re
@@ -134,7 +135,9 @@ class Mutator:
     def visit(self, cursor, parent, inside):
         if cursor.location.file and not self.is_here(cursor):
             return
-        if cursor.kind in (K.STATIC_ASSERT, K.ENUM_DECL):
+        if cursor.kind in (K.STATIC_ASSERT, K.ENUM_DECL, K.TYPE_ALIAS_DECL):
+            return
+        if cursor.kind in FUNCTIONS and b'consteval ' in self.source[self.span(cursor)[0]:cursor.location.offset]:
             return
         if cursor.kind in FUNCTIONS | {K.CALL_EXPR} and cursor.spelling in ROOM:
             return
@@ -149,8 +152,8 @@ class Mutator:
         if inside:
             self.edit(cursor, parent, children)
         for child in children:
-            # In front of a variable's name stands its type.
-            if cursor.kind != K.VAR_DECL or child.extent.start.offset > cursor.location.offset:
+            # In front of the name stands the type.
+            if cursor.kind not in FUNCTIONS | {K.VAR_DECL} or child.extent.start.offset > cursor.location.offset:
                 self.visit(child, cursor, inside)
 
     def is_number(self, cursor, parent):

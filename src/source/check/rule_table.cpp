@@ -24,7 +24,7 @@ constexpr std::string_view name_of(const RuleRow& row) noexcept { return row.rul
 
 /// The tables of the rooms in one, by name.
 template <std::size_t... Sizes>
-constexpr auto merged(const std::array<RuleRow, Sizes>&... rooms) {
+consteval auto merged(const std::array<RuleRow, Sizes>&... rooms) {
     std::array<RuleRow, (Sizes + ...)> rows{};
     auto* place = rows.data();
     ((place = std::ranges::copy(rooms, place).out), ...);
