@@ -4,7 +4,7 @@
 #include <stdexcept>
 
 #include "nurl/core/text.hpp"
-#include "platform/temporary_directory.hpp"
+#include "support/temporary_directory.hpp"
 
 namespace nurl::test {
 

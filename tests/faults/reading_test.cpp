@@ -7,7 +7,7 @@
 #include "faults/fail_each.hpp"
 #include "faults/open_files.hpp"
 #include "nurl/input/gamess/reader.hpp"
-#include "platform/temporary_directory.hpp"
+#include "support/temporary_directory.hpp"
 
 using namespace nurl::input::gamess;
 using nurl::test::fail_each_allocation_of;

@@ -6,8 +6,8 @@
 #include <doctest/doctest.h>
 
 #include "faults/fail_each.hpp"
-#include "platform/temporary_directory.hpp"
 #include "schema/loader.hpp"
+#include "support/temporary_directory.hpp"
 
 using namespace nurl::input::gamess::schema;
 using nurl::test::fail_each_allocation_of;

@@ -9,7 +9,7 @@
 #include "nurl/input/gamess/source/check.hpp"
 #include "nurl/input/gamess/source/compare.hpp"
 #include "nurl/input/gamess/source/wrap.hpp"
-#include "platform/temporary_directory.hpp"
+#include "support/temporary_directory.hpp"
 
 using namespace nurl::input::gamess;
 using nurl::test::fail_each_allocation_of;

@@ -11,8 +11,8 @@
 #include "nurl/core/fs.hpp"
 #include "nurl/input/gamess/reader.hpp"
 #include "nurl/input/gamess/writer.hpp"
-#include "platform/temporary_directory.hpp"
 #include "support/show_model.hpp"
+#include "support/temporary_directory.hpp"
 
 using namespace nurl::input::gamess;
 using nurl::test::content;

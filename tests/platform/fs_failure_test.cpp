@@ -9,9 +9,9 @@
 #include <doctest/doctest.h>
 
 #include "nurl/core/fs.hpp"
-#include "platform/child_process.hpp"
 #include "platform/system_faults.hpp"
-#include "platform/temporary_directory.hpp"
+#include "support/child_process.hpp"
+#include "support/temporary_directory.hpp"
 
 using nurl::core::fs::write_text_file;
 using nurl::test::content;

@@ -16,7 +16,7 @@
 #include <doctest/doctest.h>
 
 #include "nurl/core/fs.hpp"
-#include "platform/temporary_directory.hpp"
+#include "support/temporary_directory.hpp"
 
 using nurl::core::fs::write_text_file;
 using nurl::test::make_file;

@@ -11,7 +11,7 @@
 
 #include <doctest/doctest.h>
 
-#include "platform/temporary_directory.hpp"
+#include "support/temporary_directory.hpp"
 
 using nurl::core::fs::write_text_file;
 using nurl::test::content;

@@ -8,7 +8,7 @@
 
 #include <doctest/doctest.h>
 
-#include "platform/temporary_directory.hpp"
+#include "support/temporary_directory.hpp"
 
 using nurl::core::resource::getenv_string;
 using nurl::core::resource::is_regular_file_path;

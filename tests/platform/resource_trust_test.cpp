@@ -8,7 +8,7 @@
 
 #include "core_resource/trust.hpp"
 #include "nurl/core/resource.hpp"
-#include "platform/temporary_directory.hpp"
+#include "support/temporary_directory.hpp"
 
 using nurl::core::resource::search_file;
 using nurl::test::make_file;

@@ -8,8 +8,8 @@
 
 #include <doctest/doctest.h>
 
-#include "platform/temporary_directory.hpp"
 #include "reader/reading.hpp"
+#include "support/temporary_directory.hpp"
 
 using namespace nurl::input::gamess;
 using namespace nurl::test;

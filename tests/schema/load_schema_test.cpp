@@ -3,8 +3,8 @@
 
 #include <doctest/doctest.h>
 
-#include "platform/temporary_directory.hpp"
 #include "schema/read_text.hpp"
+#include "support/temporary_directory.hpp"
 
 using nurl::input::gamess::schema::load_schema;
 using nurl::test::make_file;

@@ -9,7 +9,7 @@
 #include <unistd.h>
 #include <utility>
 
-#include "support/emulator.hpp"
+#include "support/program_words.hpp"
 
 namespace nurl::test {
 

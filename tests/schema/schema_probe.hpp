@@ -11,7 +11,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/temporary_directory.hpp"
+#include "support/temporary_directory.hpp"
 
 namespace nurl::test {
 

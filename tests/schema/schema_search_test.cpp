@@ -5,9 +5,9 @@
 
 #include <doctest/doctest.h>
 
-#include "platform/temporary_directory.hpp"
 #include "schema/schema_probe.hpp"
 #include "schema/show.hpp"
+#include "support/temporary_directory.hpp"
 
 using nurl::test::resources_file;
 using nurl::test::SchemaProbe;

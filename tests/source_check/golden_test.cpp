@@ -10,8 +10,8 @@
 
 #include <doctest/doctest.h>
 
-#include "platform/temporary_directory.hpp"
 #include "source_check/found.hpp"
+#include "support/temporary_directory.hpp"
 
 using namespace nurl::input::gamess;
 using nurl::test::content;

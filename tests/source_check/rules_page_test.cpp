@@ -7,7 +7,7 @@
 #include "model/printing.hpp"
 #include "nurl/core/text.hpp"
 #include "nurl/input/gamess/source/check.hpp"
-#include "platform/temporary_directory.hpp"
+#include "support/temporary_directory.hpp"
 
 using namespace nurl::input::gamess;
 using nurl::core::text::split_lines;

@@ -9,7 +9,8 @@
 #include <unistd.h>
 #include <utility>
 
-#include "support/emulator.hpp"
+#include "support/child_process.hpp"
+#include "support/program_words.hpp"
 
 namespace nurl::test {
 
@@ -52,14 +53,6 @@ private:
 
     posix_spawn_file_actions_t actions_{};
 };
-
-std::vector<char*> pointers(std::vector<std::string>& texts) {
-    std::vector<char*> result;
-    result.reserve(texts.size() + 1);
-    for (std::string& text : texts) result.push_back(text.data());
-    result.push_back(nullptr);
-    return result;
-}
 
 /// The environment of the tests without what the program looks at, and with what is wanted.
 std::vector<std::string> environment_with(const std::vector<std::string>& wanted) {
@@ -114,15 +107,7 @@ public:
     }
 
     /// Reads until nobody has the other end open.
-    [[nodiscard]] std::string read_all() const {
-        std::string text;
-        std::array<char, 4096> buffer{};
-        while (true) {
-            const ssize_t count = ::read(descriptor_, buffer.data(), buffer.size());
-            if (count <= 0) return text;
-            text.append(buffer.data(), static_cast<std::size_t>(count));
-        }
-    }
+    [[nodiscard]] std::string read_all() const { return read_to_end(descriptor_); }
 
 private:
     int descriptor_;

@@ -5,8 +5,8 @@
 
 #include "nurl/input/gamess/model.hpp"
 #include "nurl/input/gamess/reader.hpp"
-#include "platform/temporary_directory.hpp"
 #include "support/comma_locale.hpp"
+#include "support/temporary_directory.hpp"
 
 using nurl::input::gamess::GamessInput;
 using nurl::input::gamess::parse_string;

@@ -11,8 +11,8 @@
 #include <doctest/doctest.h>
 
 #include "nurl/input/gamess/model.hpp"
-#include "platform/temporary_directory.hpp"
 #include "support/groups.hpp"
+#include "support/temporary_directory.hpp"
 
 using nurl::input::gamess::GamessInput;
 using nurl::test::content;

@@ -12,8 +12,8 @@
 #include "faults/files/read_faults.hpp"
 #include "faults/open_files.hpp"
 #include "nurl/input/gamess/reader.hpp"
-#include "platform/child_process.hpp"
-#include "platform/temporary_directory.hpp"
+#include "support/child_process.hpp"
+#include "support/temporary_directory.hpp"
 
 using namespace nurl::input::gamess;
 using nurl::test::in_child;

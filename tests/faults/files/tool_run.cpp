@@ -7,8 +7,8 @@
 #include <unistd.h>
 #include <utility>
 
-#include "platform/child_process.hpp"
-#include "support/emulator.hpp"
+#include "support/child_process.hpp"
+#include "support/program_words.hpp"
 
 namespace nurl::test {
 
@@ -16,14 +16,6 @@ namespace {
 
 constexpr unsigned seconds_to_live = 30;
 constexpr int not_started = 127;
-
-std::vector<char*> pointers(std::vector<std::string>& texts) {
-    std::vector<char*> result;
-    result.reserve(texts.size() + 1);
-    for (std::string& text : texts) result.push_back(text.data());
-    result.push_back(nullptr);
-    return result;
-}
 
 /// Leads the streams of this process to where nothing is, but for standard error.
 bool lead_streams(int err) {

@@ -9,8 +9,8 @@
 #include <doctest/doctest.h>
 
 #include "faults/files/tool_run.hpp"
-#include "platform/child_process.hpp"
-#include "platform/temporary_directory.hpp"
+#include "support/child_process.hpp"
+#include "support/temporary_directory.hpp"
 
 using nurl::test::content;
 using nurl::test::make_file;

@@ -12,9 +12,9 @@
 
 #include "faults/open_files.hpp"
 #include "nurl/input/gamess/model.hpp"
-#include "platform/child_process.hpp"
-#include "platform/temporary_directory.hpp"
+#include "support/child_process.hpp"
 #include "support/groups.hpp"
+#include "support/temporary_directory.hpp"
 
 using nurl::input::gamess::GamessInput;
 using nurl::test::content;

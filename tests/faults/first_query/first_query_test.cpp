@@ -14,8 +14,8 @@
 #include "nurl/input/gamess/schema.hpp"
 #include "nurl/input/gamess/source/check.hpp"
 #include "nurl/input/gamess/validation.hpp"
-#include "platform/child_process.hpp"
-#include "platform/temporary_directory.hpp"
+#include "support/child_process.hpp"
+#include "support/temporary_directory.hpp"
 
 using namespace nurl::input::gamess;
 using nurl::test::AllocationFault;

@@ -1,4 +1,4 @@
-#include "platform/temporary_directory.hpp"
+#include "support/temporary_directory.hpp"
 
 #include <algorithm>
 #include <cstdlib>

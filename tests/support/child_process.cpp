@@ -1,4 +1,4 @@
-#include "platform/child_process.hpp"
+#include "support/child_process.hpp"
 
 #include <array>
 #include <csignal>

@@ -14,7 +14,7 @@ namespace nurl::test {
 ///         the number when a signal ended it, which is 14 when it took longer than half a minute
 [[nodiscard]] std::string in_child(const std::function<std::string()>& action);
 
-/// Everything that comes out of a pipe until its other end is closed.
+/// Everything that comes out of a pipe, or a terminal, until its other end is closed.
 [[nodiscard]] std::string read_to_end(int from);
 
 /// Gives up the rights of the superuser, for the rest of a child. Does nothing for other users.
