@@ -29,6 +29,8 @@ bool read_block(std::ifstream& file, std::size_t count, std::string& text) {
 /// The whole content of a file, or nothing when it cannot be opened or read to its end.
 std::optional<std::string> read_text(const std::string& path) {
     constexpr std::size_t further_block = 65536;
+    // The system would open what the part in front of a NUL names.
+    if (path.find('\0') != std::string::npos) return std::nullopt;
     std::ifstream file(path);
     if (!file) return std::nullopt;
     std::string text;

@@ -58,9 +58,9 @@ void check_keywords(std::string_view section, const std::vector<KeyValue>& entri
 }
 
 /// Adds an error for each raw line that is neither blank nor a comment.
-void check_raw_text(const NamedSection& section, Issues& issues) {
-    const std::string name = schema::normalize_section_name(section.name);
-    for (const std::string& line : section.raw_lines) {
+void check_raw_text(const std::string& name, const std::vector<std::string>& raw_lines,
+                    Issues& issues) {
+    for (const std::string& line : raw_lines) {
         const std::string_view text = detail::trim_view(line);
         if (text.empty() || detail::is_comment(text)) continue;
         issues.add({Severity::Error, name, "", raw_text_message(name)});
@@ -77,19 +77,17 @@ void check_hidden_keywords(std::string_view section, const std::vector<std::stri
 }
 
 void check_section(const NamedSection& section, const Options& options, Issues& issues) {
-    const schema::SectionSpec* const spec = schema::find_section(section.name);
+    const std::string name = schema::normalize_section_name(section.name);
+    const schema::SectionSpec* const spec = schema::find_section(name);
     if (spec == nullptr) {
-        if (!options.report_unknown_sections) return;
-        std::string name = schema::normalize_section_name(section.name);
-        std::string message = unknown_section_message(name);
-        issues.add({Severity::Info, std::move(name), "", std::move(message)});
+        if (options.report_unknown_sections)
+            issues.add({Severity::Info, name, "", unknown_section_message(name)});
         return;
     }
-    const std::string_view name = detail::trim_view(section.name);  // once, not for every keyword
     if (options.report_unknown_keywords) check_keywords(name, section.entries, issues);
     if (options.report_raw_text_in_structured &&
         spec->parse_mode == schema::SectionParseMode::Structured)
-        check_raw_text(section, issues);
+        check_raw_text(name, section.raw_lines, issues);
     if (options.report_unknown_keywords && spec->parse_mode != schema::SectionParseMode::Raw)
         check_hidden_keywords(name, section.raw_lines, issues);
 }

@@ -71,6 +71,13 @@ TEST_CASE("A directory gives the error of a file that cannot be opened") {
     CHECK(parse_file("/") == failed_to_open("/"));
 }
 
+TEST_CASE("A path with a NUL is not that of the file in front of the NUL") {
+    const TemporaryDirectory directory;
+    make_file(directory.file("deck.inp"), "$CONTRL $END");
+    const std::string path = directory.file("deck.inp") + std::string("\0.old", 5);
+    CHECK(parse_file(path) == failed_to_open(path));
+}
+
 TEST_CASE("A file that opens but cannot be read gives the error of one that cannot be opened") {
     // The memory at address 0 belongs to nobody, so reading it is an I/O error.
     CHECK(parse_file("/proc/self/mem") == failed_to_open("/proc/self/mem"));

@@ -1,6 +1,5 @@
 #include "schema/schema_probe.hpp"
 
-#include <algorithm>
 #include <fcntl.h>
 #include <spawn.h>
 #include <sstream>
@@ -43,12 +42,6 @@ public:
 private:
     posix_spawn_file_actions_t actions_{};
 };
-
-std::vector<char*> pointers(std::vector<std::string>& texts) {
-    std::vector<char*> result(texts.size() + 1, nullptr);
-    std::ranges::transform(texts, result.begin(), [](std::string& text) { return text.data(); });
-    return result;
-}
 
 std::vector<std::string> lines_of(const std::string& text) {
     std::istringstream stream(text);

@@ -119,16 +119,20 @@ TEST_CASE("An alias is checked as its target and reported under its own name") {
           Issues{unknown_keyword("points", "FOO")});
 }
 
-TEST_CASE("Of two leading dollar signs only one is taken away for look-ups and reports") {
-    CHECK(findings(NamedSection{"$$PCM", {{"FOO", "1"}}, {}}) == Issues{unknown_group("$pcm")});
-    CHECK(findings(NamedSection{"$$pcm", {}, {}}).at(0).message ==
-          "Section $$PCM is not currently described by the GAMESS schema");
-    CHECK(findings(NamedSection{"$$Odd", {{"KNOWN", "1"}, {"FOO", "1"}}, {"junk BAR=2 KNOWN=1"}}) ==
-          Issues{unknown_keyword("$odd", "FOO"), raw_text("$odd"), unknown_keyword("$odd", "BAR")});
-    CHECK(findings(NamedSection{"$$Odd", {{"FOO", "1"}}, {}}).at(0).message ==
+TEST_CASE("Look-ups take a second leading dollar sign away, reports of the group one only") {
+    CHECK(findings(NamedSection{"$$PCM", {{"FOO", "1"}}, {}}) ==
+          Issues{unknown_keyword("pcm", "FOO")});
+    CHECK(findings(NamedSection{" $ pcm", {{"FOO", "1"}}, {}}) ==
+          Issues{unknown_keyword("pcm", "FOO")});
+    CHECK(findings(NamedSection{"$$ODD", {{"KNOWN", "1"}}, {}}) == Issues{unknown_group("$odd")});
+    CHECK(findings(NamedSection{"$$odd", {}, {}}).at(0).message ==
+          "Section $$ODD is not currently described by the GAMESS schema");
+    CHECK(
+        findings(NamedSection{"$$$Odd", {{"KNOWN", "1"}, {"FOO", "1"}}, {"junk BAR=2 KNOWN=1"}}) ==
+        Issues{unknown_keyword("$odd", "FOO"), raw_text("$$odd"), unknown_keyword("$odd", "BAR")});
+    CHECK(findings(NamedSection{"$$$Odd", {{"FOO", "1"}}, {}}).at(0).message ==
           "Keyword 'FOO' is not currently described by the schema for section $$ODD");
     CHECK(findings(NamedSection{"$ODD", {}, {}}) == Issues{unknown_group("odd")});
-    CHECK(findings(NamedSection{"$$$ODD", {}, {}}) == Issues{unknown_group("$$odd")});
 }
 
 TEST_CASE("A group without a name is reported under the empty name") {

@@ -143,6 +143,9 @@ struct GuessSection {
 ///
 /// Group names given to the members are compared in canonical form: blanks around them and one
 /// leading `$` are dropped, letter case does not count, and an empty name stands for "SECTION".
+///
+/// Of the lines of `$DATA`, an empty one is not kept; one of blanks is, also the blank in front of
+/// its `$END`. So `data_lines` grow by one line each time a written deck is read again.
 struct GamessInput {
     bool has_control = false;                  ///< `$CONTRL` belongs to the deck
     bool has_data = false;                     ///< `$DATA` belongs to the deck
@@ -207,7 +210,11 @@ struct GamessInput {
     /// Renders the deck and saves it under `path`, replacing a file that is there.
     ///
     /// @throws std::runtime_error "Failed to write GAMESS input file: " and the path, when any
-    ///         step of saving fails; an existing file is then as it was
+    ///         step of saving fails; an existing file is then as it was. A pipe or a device may
+    ///         have got a part of the text
+    /// @throws std::bad_alloc  when there is no memory for the text; nothing is written then
+    ///
+    /// Linear in the size of the document.
     NURL_GMS_INP_EXPORT void write_file(const std::string& path) const;
 };
 

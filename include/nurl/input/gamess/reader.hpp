@@ -18,12 +18,14 @@ namespace nurl::input::gamess {
 /// Reads the text of a deck.
 ///
 /// Lines end at LF, CR LF or a lone CR; a UTF-8 byte-order mark at the very start is skipped. A
-/// line whose first character that is not blank is `$` opens a group, the first `$END` in any
-/// letter case closes it. Text between groups and behind `$END` is not kept.
+/// line whose first character that is not blank is `$`, with a name directly behind it, opens a
+/// group; the first `$END` in any letter case closes it. Text between groups and behind `$END` is
+/// not kept.
 ///
 /// Each group but `$DATA` goes to `GamessInput::sections`; `$CONTRL`, `$SYSTEM`, `$BASIS`, `$SCF`
 /// and `$GUESS` are also lifted into their structured records, where a value that does not convert
-/// is kept in `extra`. `$DATA` fills `title`, `point_group`, `atoms` and `data_lines`.
+/// is kept in `extra`. `$DATA` fills `title`, `point_group`, `atoms` and `data_lines`; a second
+/// one goes on where the first ended, text on its header included, so no title is overwritten.
 ///
 /// @return the document with `ok` set when at least one group was found. Otherwise `error` is "The
 ///         input does not contain any GAMESS sections". Warnings tell of groups without `$END` and
@@ -38,8 +40,9 @@ namespace nurl::input::gamess {
 
 /// Reads a deck file as `parse_string` reads its content.
 ///
-/// @return as `parse_string`. When the path cannot be opened or read (a directory, an I/O error),
-///         a default result whose `error` is "Failed to open file: " and the path as given.
+/// @return as `parse_string`. When the path cannot be opened or read (a directory, a NUL in it, an
+///         I/O error), a default result whose `error` is "Failed to open file: " and the path as
+///         given.
 [[nodiscard]] NURL_GMS_INP_EXPORT ParseResult parse_file(const std::string& path);
 
 namespace detail {

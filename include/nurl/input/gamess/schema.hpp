@@ -7,7 +7,11 @@
 /// query the table never changes, so all queries may be made from any thread at any time.
 ///
 /// The file is the value of the environment variable `NURL_GMS_INP_SCHEMA_YAML` when that names a
-/// regular file, otherwise what `resolve_schema_path("")` finds.
+/// regular file, otherwise what `resolve_schema_path("")` finds. A UTF-8 byte-order mark at its
+/// start is skipped.
+///
+/// Unless it says otherwise, a function here throws only on memory exhaustion and costs time linear
+/// in the length of the names given, whatever the size of the table.
 #pragma once
 
 #include <cstdint>
@@ -37,7 +41,7 @@ enum class EntryKind : std::int32_t {
 /// What the schema says about one keyword.
 struct EntrySpec {
     EntryKind kind = EntryKind::Unspecified;  ///< value or switch
-    std::string value_type = "token";         ///< type word in lower case; not interpreted here
+    std::string value_type = "token";         ///< type word in lower case, any; see `source::check`
     bool indexed = false;                     ///< written with an index, such as `C(1)`
     bool repeated = false;                    ///< may occur more than once
 
@@ -63,7 +67,9 @@ struct SectionSpec {
 /// @return the first regular file among `explicit_path`, the value of `NURL_GMS_INP_SCHEMA_YAML`,
 ///         and `resources/schemas/input/gamess.yaml` or `share/nurllib/schemas/input/gamess.yaml`
 ///         under the current directory, the directory of the program, the directory of this
-///         library, and up to six parents of each; empty when there is none
+///         library, and up to six parents of each; empty when there is none. In a process of
+///         root, files below these directories count only where nobody else can write; the first
+///         two paths are taken as they are.
 ///
 /// Touches the file system on every call; the loaded table is not affected.
 [[nodiscard]] NURL_GMS_INP_EXPORT std::string resolve_schema_path(const std::string& explicit_path);
@@ -91,6 +97,9 @@ struct SectionSpec {
 
 /// Finds a keyword of a group. Only the keywords of the group that the alias leads to count.
 ///
+/// @param section  as for `find_section`
+/// @param entry    any spelling that `normalize_entry_name` brings to the name; an index suffix
+///                 does not count
 /// @return the description, or null when the group or the keyword is not known; valid for the life
 ///         of the process
 [[nodiscard]] NURL_GMS_INP_EXPORT const EntrySpec* find_entry(std::string_view section,
