@@ -3,56 +3,16 @@
 #include <array>
 #include <cstdlib>
 #include <fcntl.h>
-#include <spawn.h>
 #include <stdexcept>
-#include <sys/wait.h>
 #include <unistd.h>
 #include <utility>
 
 #include "support/child_process.hpp"
-#include "support/program_words.hpp"
+#include "support/program.hpp"
 
 namespace nurl::test {
 
 namespace {
-
-void require_success(int error, const char* what) {
-    if (error != 0) throw std::runtime_error(std::string{"cannot prepare the program: "} + what);
-}
-
-/// Directory and streams of the program.
-class FileActions {
-public:
-    explicit FileActions(const std::string& directory) {
-        require_success(::posix_spawn_file_actions_init(&actions_), "actions");
-        require_success(::posix_spawn_file_actions_addchdir_np(&actions_, directory.c_str()),
-                        "directory");
-    }
-    FileActions(const FileActions&) = delete;
-    FileActions& operator=(const FileActions&) = delete;
-    FileActions(FileActions&&) = delete;
-    FileActions& operator=(FileActions&&) = delete;
-    ~FileActions() { ::posix_spawn_file_actions_destroy(&actions_); }
-
-    void open_for_reading(int stream, const std::string& path) { open(stream, path, O_RDONLY); }
-    void open_for_writing(int stream, const std::string& path) {
-        open(stream, path, O_WRONLY | O_CREAT | O_TRUNC | O_NOCTTY);
-    }
-    void close(int stream) {
-        require_success(::posix_spawn_file_actions_addclose(&actions_, stream), "close");
-    }
-
-    [[nodiscard]] const posix_spawn_file_actions_t* get() const { return &actions_; }
-
-private:
-    void open(int stream, const std::string& path, int flags) {
-        require_success(::posix_spawn_file_actions_addopen(&actions_, stream, path.c_str(), flags,
-                                                           S_IRUSR | S_IWUSR),
-                        "stream");
-    }
-
-    posix_spawn_file_actions_t actions_{};
-};
 
 /// The environment of the tests without what the program looks at, and with what is wanted.
 std::vector<std::string> environment_with(const std::vector<std::string>& wanted) {
@@ -70,19 +30,7 @@ pid_t start(const std::vector<std::string>& arguments, const Surroundings& surro
             const FileActions& actions) {
     std::vector<std::string> words = arguments;
     words.insert(words.begin(), NURL_TEST_TOOL_PROGRAM);
-    words = started_as(std::move(words));
-    std::vector<std::string> variables = environment_with(surroundings.environment);
-    pid_t process = 0;
-    require_success(::posix_spawn(&process, words.front().c_str(), actions.get(), nullptr,
-                                  pointers(words).data(), pointers(variables).data()),
-                    "start");
-    return process;
-}
-
-int wait_for(pid_t process) {
-    int status = 0;
-    if (::waitpid(process, &status, 0) != process) throw std::runtime_error("the program is lost");
-    return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+    return start_program(std::move(words), environment_with(surroundings.environment), actions);
 }
 
 /// The end of a terminal that a person would sit at.
@@ -102,7 +50,8 @@ public:
     /// The path of the other end.
     [[nodiscard]] std::string path() const {
         std::array<char, 256> name{};
-        require_success(::ptsname_r(descriptor_, name.data(), name.size()), "terminal");
+        if (::ptsname_r(descriptor_, name.data(), name.size()) != 0)
+            throw std::runtime_error("a terminal without a name");
         return name.data();
     }
 

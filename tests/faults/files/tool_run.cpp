@@ -3,12 +3,11 @@
 #include <array>
 #include <fcntl.h>
 #include <stdexcept>
-#include <sys/wait.h>
 #include <unistd.h>
 #include <utility>
 
 #include "support/child_process.hpp"
-#include "support/program_words.hpp"
+#include "support/program.hpp"
 
 namespace nurl::test {
 
@@ -55,9 +54,7 @@ ToolRun run_tool(const std::filesystem::path& directory, const std::vector<std::
     ::close(err[1]);
     std::string told = read_to_end(err[0]);
     ::close(err[0]);
-    int status = 0;
-    if (::waitpid(process, &status, 0) != process) throw std::runtime_error("a process is lost");
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status), std::move(told)};
+    return {wait_for(process), std::move(told)};
 }
 
 }  // namespace nurl::test
