@@ -55,8 +55,9 @@ AtomRecord normalised(AtomRecord atom) {
     return atom;
 }
 
+/// The atom of a geometry, still to be normalised.
 AtomRecord converted(const core::Atom& atom) {
-    return normalised({atom.symbol, std::nullopt, atom.x, atom.y, atom.z});
+    return {atom.symbol, std::nullopt, atom.x, atom.y, atom.z};
 }
 
 }  // namespace

@@ -34,14 +34,6 @@ void ensure_group(GamessInput& input, const std::string& name) {
     }
 }
 
-void disengage_structured(GamessInput& input, std::string_view name) noexcept {
-    if (name == "CONTRL") input.has_control = false;
-    if (name == "SYSTEM") input.system.reset();
-    if (name == "BASIS") input.basis.reset();
-    if (name == "SCF") input.scf.reset();
-    if (name == "GUESS") input.guess.reset();
-}
-
 AddedGroup::AddedGroup(GamessInput& input, const std::string& name)
     : input_(input),
       name_(name),

@@ -15,10 +15,6 @@ namespace nurl::input::gamess::detail {
 /// @param name  as `editor_section_name` gives it; neither empty nor `DATA`
 void ensure_group(GamessInput& input, const std::string& name);
 
-/// Takes a structured group out of the deck, but for its copies in the lists. The record of CONTRL
-/// keeps its values. Other names change nothing.
-void disengage_structured(GamessInput& input, std::string_view name) noexcept;
-
 /// The group that a keyword is to go into. A group that had to be added for that goes again with
 /// this object unless it is kept.
 class AddedGroup {

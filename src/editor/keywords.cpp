@@ -80,15 +80,16 @@ void InputEditor::set_keyword(std::string_view section, std::string_view key,
     if (name.empty() || keyword.empty())
         throw std::runtime_error("Section name and keyword must be non-empty");
     if (name == "DATA") throw std::runtime_error("$DATA does not support key=value editing");
+    // A copy, since the value may be the name of a group, which moves when a group is added.
+    const std::string text{editor_trim(value)};
     detail::AddedGroup added(input_, name);
     if (detail::is_structured(name)) {
-        detail::visit_structured(input_, name, [&](auto* record) {
-            set_in_record(*record, keyword, editor_trim(value));
-        });
+        detail::visit_structured(input_, name,
+                                 [&](auto* record) { set_in_record(*record, keyword, text); });
     } else {
         NamedSection* const group = input_.find_section(name);
         if (group == nullptr) throw std::runtime_error("Failed to create section: " + name);
-        set_in_group(*group, keyword, editor_trim(value));
+        set_in_group(*group, keyword, text);
     }
     added.keep();
 }

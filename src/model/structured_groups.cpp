@@ -18,4 +18,12 @@ void engage_structured(GamessInput& input, std::string_view name) noexcept {
     if (name == "GUESS") engage(input.guess);
 }
 
+void disengage_structured(GamessInput& input, std::string_view name) noexcept {
+    if (name == "CONTRL") input.has_control = false;
+    if (name == "SYSTEM") input.system.reset();
+    if (name == "BASIS") input.basis.reset();
+    if (name == "SCF") input.scf.reset();
+    if (name == "GUESS") input.guess.reset();
+}
+
 }  // namespace nurl::input::gamess::detail

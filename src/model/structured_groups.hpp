@@ -28,6 +28,10 @@ constexpr bool is_structured(std::string_view name) noexcept {
 /// change nothing.
 void engage_structured(GamessInput& input, std::string_view name) noexcept;
 
+/// Takes a structured group out of the deck, but for its copies in the lists. The record of CONTRL
+/// keeps its values. Other names change nothing.
+void disengage_structured(GamessInput& input, std::string_view name) noexcept;
+
 /// Calls `visit` with a pointer to the record of the named structured group.
 ///
 /// The record of CONTRL exists whether or not the group belongs to the deck; the pointer to an

@@ -2,6 +2,7 @@
 /// Reading and writing any typed record by its table.
 #pragma once
 
+#include <iterator>
 #include <optional>
 #include <string>
 #include <string_view>

@@ -39,6 +39,15 @@ TEST_CASE("A keyword that is there gets the new value at its place") {
     CHECK(set_in({{"A", "1"}, {" k\t", "old"}}, {}) == group("X", {{"A", "1"}, {" k\t", "new"}}));
 }
 
+TEST_CASE("A value may be text of the document, also where the group has to be added") {
+    for (const std::string section : {"X", "SCF", "NEW"}) {
+        CAPTURE(section);
+        InputEditor editor{deck_of({group("X")})};
+        editor.set_keyword(section, "K", editor.input().sections.front().name);
+        CHECK(editor.get_keyword(section, "K") == "X");
+    }
+}
+
 TEST_CASE("Of a keyword that stands twice only the first value is replaced") {
     const Entries twice{{"K", "1"}, {"A", "2"}, {"k", "3"}};
     CHECK(set_in(twice, {}) == group("X", {{"K", "new"}, {"A", "2"}, {"k", "3"}}));

@@ -65,6 +65,17 @@ TEST_CASE("A structured group is present once it has been engaged") {
     }
 }
 
+TEST_CASE("A structured group that is disengaged is present no more, and the others are") {
+    for (const std::string_view name : structured_names) {
+        CAPTURE(name);
+        GamessInput deck;
+        for (const std::string_view each : structured_names) engage_structured(deck, each);
+        disengage_structured(deck, name);
+        for (const std::string_view other : structured_names)
+            CHECK(structured_present(deck, other) == (other != name));
+    }
+}
+
 TEST_CASE("Engaging a group again keeps its record") {
     GamessInput deck;
     deck.scf.emplace().diis = true;

@@ -20,7 +20,8 @@ namespace nurl::input::gamess {
 /// structured: a keyword that their record has a member for goes there when its value converts,
 /// every other one into the record's `extra`. `DATA` holds the molecule and has no keywords. All
 /// others are generic and live in `sections` or `extra_sections`. Ten of these can also be read and
-/// replaced as typed records.
+/// replaced as typed records. Of a generic group that stands more than once the first one is meant,
+/// in `sections` before `extra_sections`; only `remove_section` takes all.
 ///
 /// Group names and keywords may be given in any case; blanks, tabs and line ends around them and
 /// one leading `$` of a group name are dropped. Values keep their case except where a record holds
@@ -76,11 +77,16 @@ public:
     ///
     /// In a structured group, a value that converts to the type of the record's member is stored
     /// there and leaves no copy in `extra`; logical members take `.T.`, `T`, `TRUE`, `YES`, `1`,
-    /// `.F.`, `F`, `FALSE` and `NO` in any case, but not `0`. What has no member or does not
-    /// convert is put into `extra`. In a generic group the first entry of the keyword is replaced
-    /// or a new one appended; the keyword is cut out of the raw lines, whose runs of blanks become
-    /// single ones, and raw lines left blank disappear.
+    /// `.F.`, `F`, `FALSE` and `NO` in any case, but not `0`; `UNITS` takes `BOHR` as bohr and
+    /// everything else as angstrom. What has no member or does not convert is put into `extra`. A
+    /// blank text is stored, but not written.
     ///
+    /// In a generic group the first entry of the keyword is replaced or a new one appended; a later
+    /// one keeps its value, which `get_keyword` then gives. The keyword is cut out of the raw
+    /// lines. All raw lines are trimmed, in those with keywords runs of blanks become single ones,
+    /// and those left blank disappear.
+    ///
+    /// @param value  may be text of this document
     /// @throws std::runtime_error "Section name and keyword must be non-empty" when either is
     ///         blank; "$DATA does not support key=value editing" for `DATA`; the document is then
     ///         unchanged
@@ -98,8 +104,9 @@ public:
     ///
     /// In a structured group the record's member is cleared when it holds a value, and entries of
     /// that keyword in `extra` then stay; otherwise they are removed. In a generic group all
-    /// entries of the keyword and its pairs in raw lines go; runs of blanks in raw lines become
-    /// single ones, and lines left blank stay.
+    /// entries of the keyword and its pairs in raw lines go. All raw lines are trimmed, and in
+    /// those with keywords runs of blanks become single ones, also when nothing is removed; lines
+    /// left blank stay.
     ///
     /// @return true when something was removed; false for blank names and for `DATA`
     NURL_GMS_INP_EXPORT bool remove_keyword(std::string_view section, std::string_view key);

@@ -210,11 +210,8 @@ struct GamessInput {
     /// Renders the deck and saves it under `path`, replacing a file that is there.
     ///
     /// @throws std::runtime_error "Failed to write GAMESS input file: " and the path, when any
-    ///         step of saving fails; an existing file is then as it was. A pipe or a device may
-    ///         have got a part of the text
-    /// @throws std::bad_alloc  when there is no memory for the text; nothing is written then
-    ///
-    /// Linear in the size of the document.
+    ///         step of saving fails; an existing file is then as it was, while a pipe or a device
+    ///         may have got a part of the text. `std::bad_alloc` comes before anything is written
     NURL_GMS_INP_EXPORT void write_file(const std::string& path) const;
 };
 

@@ -1,10 +1,14 @@
 /// @file
 /// Ten groups as typed records, one member for each keyword.
 ///
-/// A group is read into its record, changed, and written back as a whole. Nothing of it is lost on
-/// the way: what a record has no member for, and values that do not convert, are kept as entries,
-/// free text as raw lines. List members gather all entries of their keyword in the order met,
-/// whatever index they are written with, and are written as one entry.
+/// A group is read into its record, changed, and written back as a whole. What a record has no
+/// member for, and values that do not convert, are kept as entries, free text as raw lines. List
+/// members gather all entries of their keyword in the order met, whatever index they are written
+/// with, and are written as one entry.
+///
+/// What a member stands for is written in one way: of a keyword given twice the last value that
+/// converts, a list under its first index, a real with 15 significant digits, and a blank word or
+/// an empty list not at all.
 ///
 /// Functions throw only when memory runs out; the document or list that they were to change is then
 /// as it was.

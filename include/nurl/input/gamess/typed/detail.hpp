@@ -64,7 +64,7 @@ NURL_GMS_INP_EXPORT void push_optional_int(std::vector<KeyValue>& entries, std::
                                            std::optional<std::int32_t> value);
 
 /// Appends a real with 15 significant digits, `E` for an exponent, and no trailing zeros; nothing
-/// when it is absent.
+/// when it is absent. Infinities and NaNs are written as INF and NAN, which no reader takes.
 ///
 ///     push_optional_double(entries, "opttol", 1e-5);  // OPTTOL, 1E-05
 NURL_GMS_INP_EXPORT void push_optional_double(std::vector<KeyValue>& entries, std::string_view key,
@@ -78,8 +78,8 @@ NURL_GMS_INP_EXPORT void push_optional_bool(std::vector<KeyValue>& entries, std:
 NURL_GMS_INP_EXPORT void push_optional_token(std::vector<KeyValue>& entries, std::string_view key,
                                              const std::optional<std::string>& value);
 
-/// Appends integers joined by commas; nothing when there is none. The key is taken as it is, with
-/// the index it is to be written with.
+/// Appends integers joined by commas; nothing when there is none. No index is added: the key is to
+/// come with the one it is written with.
 NURL_GMS_INP_EXPORT void push_int_list(std::vector<KeyValue>& entries, std::string_view key,
                                        const std::vector<std::int32_t>& list);
 

@@ -48,8 +48,8 @@ struct ForceSection {
     bool operator==(const ForceSection&) const = default;
 };
 
-/// Reads a group as `$FORCE`, whatever its name. Nothing of it is lost, and nothing is thrown for
-/// content: what does not fit a member is kept in `extra_entries`. Linear in the size of the group.
+/// Reads a group as `$FORCE`, whatever its name. What does not fit a member is kept in
+/// `extra_entries`, and nothing is thrown for content. Linear in the size of the group.
 [[nodiscard]] NURL_GMS_INP_EXPORT ForceSection as_force_section(const NamedSection& section);
 
 /// Writes a record as the group `FORCE`: its members in their order, then `extra_entries`, then

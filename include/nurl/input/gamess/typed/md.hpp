@@ -88,8 +88,8 @@ struct MdSection {
     bool operator==(const MdSection&) const = default;
 };
 
-/// Reads a group as `$MD`, whatever its name. Nothing of it is lost, and nothing is thrown for
-/// content: what does not fit a member is kept in `extra_entries`. Linear in the size of the group.
+/// Reads a group as `$MD`, whatever its name. What does not fit a member is kept in
+/// `extra_entries`, and nothing is thrown for content. Linear in the size of the group.
 [[nodiscard]] NURL_GMS_INP_EXPORT MdSection as_md_section(const NamedSection& section);
 
 /// Writes a record as the group `MD`: its members in their order, then `extra_entries`, then

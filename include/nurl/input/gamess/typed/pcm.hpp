@@ -35,8 +35,8 @@ struct PcmSection {
     bool operator==(const PcmSection&) const = default;
 };
 
-/// Reads a group as `$PCM`, whatever its name. Nothing of it is lost, and nothing is thrown for
-/// content: what does not fit a member is kept in `extra_entries`. Linear in the size of the group.
+/// Reads a group as `$PCM`, whatever its name. What does not fit a member is kept in
+/// `extra_entries`, and nothing is thrown for content. Linear in the size of the group.
 [[nodiscard]] NURL_GMS_INP_EXPORT PcmSection as_pcm_section(const NamedSection& section);
 
 /// Writes a record as the group `PCM`: its members in their order, then `extra_entries`, then
