@@ -36,6 +36,16 @@ bool has_small_letters(std::string_view text) noexcept {
     return std::ranges::any_of(text, [](char c) { return c >= 'a' && c <= 'z'; });
 }
 
+/// Makes sure that no open group stands in front of a place: GAMESS would read a new one there as
+/// more of it.
+void require_closed(const Deck& deck, std::size_t at) {
+    const Group* before = nullptr;
+    for (const Group& group : deck.sections())
+        if (is_visible(group) && group.header.begin < at) before = &group;
+    if (before != nullptr && before->terminator.empty())
+        throw std::runtime_error("Section is not closed by $END: " + before->name);
+}
+
 /// An empty group on lines of its own.
 std::string empty_group(const std::string& name, std::string_view header,
                         std::string_view line_end) {
@@ -103,6 +113,7 @@ void Deck::ensure_section(std::string_view name) {
     };
     if (asked.empty() || asked == "DATA" || std::ranges::any_of(groups_, is_asked)) return;
     const Edit edit = new_group(*this, asked);
+    require_closed(*this, edit.span.begin);
     Deck next{edited_text(text_, {&edit, 1})};
     if (next.groups_.size() != groups_.size() + 1 ||
         std::ranges::count_if(next.groups_, is_asked) != 1)

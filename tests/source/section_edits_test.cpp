@@ -71,6 +71,19 @@ TEST_CASE("A new group that would hide another one is refused") {
     CHECK(deck.text() == text);
 }
 
+TEST_CASE("A new group is refused where it would be part of an open one") {
+    const std::string data = " $DATA\nt\nC1\n $END\n";
+    for (const std::string& text :
+         {" $SCF A=1\n" + data, " $BASIS $END\n $SCF A=1\n" + data, std::string{" $SCF A=1"}}) {
+        CAPTURE(text);
+        Deck deck{text};
+        CHECK_THROWS_WITH_AS(deck.ensure_section("DFT"), "Section is not closed by $END: SCF",
+                             std::runtime_error);
+        CHECK(deck.text() == text);
+    }
+    CHECK(after_ensure(data + " $SCF A=1\n", "DFT") == " $DFT $END\n" + data + " $SCF A=1\n");
+}
+
 TEST_CASE("A new group goes on a line of its own behind a text of one byte") {
     Deck deck{"x"};
     deck.ensure_section("SCF");

@@ -136,10 +136,35 @@ TEST_CASE("A directory, an empty file and a text without groups are no decks") {
     place.make("empty.inp", "");
     place.make("letter.txt", "Dear reader,\n\n$\n");
     CHECK(place.run({"check", ".", "empty.inp", "letter.txt"}) ==
-          Outcome{2, "3 files: no findings, 3 unreadable\n",
+          Outcome{2, "3 files: 3 unreadable\n",
                   "gms-inp: error: cannot read .: Is a directory\n"
                   "gms-inp: error: empty.inp: The input does not contain any GAMESS sections\n"
                   "gms-inp: error: letter.txt: The input does not contain any GAMESS sections\n"});
+}
+
+TEST_CASE(
+    "A script with a word behind a dollar sign is no deck, a deck in the wrong column is one") {
+    const Workplace place;
+    place.make("run.sh", "#!/bin/sh\n$GMSPATH/rungms water.inp\n");
+    place.make("low.inp", "$SCF DIRSCF=.T. $END\n");
+    CHECK(place.run({"check", "run.sh"}) ==
+          Outcome{2, "1 file: 1 unreadable\n",
+                  "gms-inp: error: run.sh: The input does not contain any GAMESS sections\n"});
+    CHECK(place.run({"set", "-i", "run.sh", "SCF.DIRSCF=.F."}).status == 2);
+    CHECK(place.content_of("run.sh") == "#!/bin/sh\n$GMSPATH/rungms water.inp\n");
+    CHECK(place.run({"check", "-q", "low.inp"}) == Outcome{1, "1 file: 1 error\n", ""});
+}
+
+TEST_CASE("Without a schema that lists keywords a warning says why none is known") {
+    const Workplace place;
+    place.make("a.inp", " $SCF DIRSCF=.T. $END\n");
+    place.make("empty.yaml", "sections:\n");
+    const Outcome outcome = place.run({"--schema", "empty.yaml", "check", "-q", "a.inp"});
+    CHECK(outcome.status == 1);
+    CHECK(outcome.err ==
+          "gms-inp: warning: the schema lists no keywords, so none is known; --schema names its "
+          "file\n");
+    CHECK(place.run({"--schema", "empty.yaml", "schema", "scf"}).err == outcome.err);
 }
 
 TEST_CASE("A dash checks standard input") {

@@ -2,7 +2,6 @@
 
 #include "tool/workplace.hpp"
 
-using nurl::test::as_written;
 using nurl::test::Outcome;
 using nurl::test::water;
 using nurl::test::Workplace;
@@ -87,10 +86,26 @@ TEST_CASE("What is no deck is not formatted") {
     CHECK(place.names().empty());
 }
 
-TEST_CASE("A deck in canonical layout comes out as it is, but for a line of blanks") {
+TEST_CASE("A deck in canonical layout comes out as it is") {
     const Workplace place;
     place.make("water.inp", water);
-    CHECK(place.run({"format", "--canonical", "water.inp"}) == Outcome{0, as_written(water), ""});
+    CHECK(place.run({"format", "--canonical", "water.inp"}) == Outcome{0, std::string{water}, ""});
+    CHECK(place.run({"format", "--canonical", "--check", "water.inp"}) == Outcome{0, "", ""});
+}
+
+TEST_CASE("The canonical layout keeps lines of blanks that are more than the one of its end") {
+    const Workplace place;
+    for (const std::string ending :
+         {" \n $END\n", " $END\n $DATA\n $END\n", " S 3 $END\n", "$END\n"}) {
+        CAPTURE(ending);
+        const std::string deck = " $DATA\nTitle\nC1\n" + ending;
+        const std::string once =
+            place.run({"format", "--canonical", "--force", "-"}, {.input = deck}).out;
+        CHECK(place.run({"format", "--canonical", "--force", "-"}, {.input = once}).out == once);
+    }
+    CHECK(
+        place.run({"format", "--canonical", "-"}, {.input = " $DATA\nTitle\nC1\n \n $END\n"}).out ==
+        " $DATA\nTitle\nC1\n \n $END\n");
 }
 
 TEST_CASE("In canonical layout groups are on one line, upper case, the molecule last") {
@@ -105,7 +120,6 @@ TEST_CASE("In canonical layout groups are on one line, upper case, the molecule 
           "Title\n"
           "C1\n"
           " H    1.0      0.0000000000      0.0000000000      1.5000000000\n"
-          " \n"
           " $END\n");
 }
 

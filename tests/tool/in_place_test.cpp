@@ -106,7 +106,7 @@ TEST_CASE("An error in one deck does not keep the others from being edited") {
     place.make("empty.inp", "");
     CHECK(place.run({"set", "-i", "open.inp", "empty.inp", "a.inp", "SCF.MAXIT=20"}) ==
           Outcome{2, "",
-                  "open.inp: error: Section is not closed by $END: SCF\n"
+                  "open.inp: error: $SCF.MAXIT: Section is not closed by $END: SCF\n"
                   "gms-inp: error: empty.inp: The input does not contain any GAMESS sections\n"});
     CHECK(place.content_of("open.inp") == " $SCF DIRSCF=.T.\n");
     CHECK(place.content_of("a.inp") == edited);
@@ -116,7 +116,7 @@ TEST_CASE("When one assignment cannot be done, none of that deck is") {
     const Workplace place;
     place.make("a.inp", deck);
     CHECK(place.run({"set", "-i", "a.inp", "SCF.MAXIT=20", "DATA.X=1"}) ==
-          Outcome{2, "", "a.inp: error: $DATA does not support key=value editing\n"});
+          Outcome{2, "", "a.inp: error: $DATA.X: $DATA does not support key=value editing\n"});
     CHECK(place.content_of("a.inp") == deck);
 }
 

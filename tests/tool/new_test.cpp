@@ -51,20 +51,20 @@ TEST_CASE("Every option of new goes where it belongs") {
                                        "--point-group",
                                        "Cnv 2",
                                        "--set",
-                                       "statpt.nstep=50",
+                                       "statpt.opttol=1E-5",
                                        "--set",
                                        "scf.dirscf=.t.",
                                        "--set",
-                                       "contrl.maxit=60",
+                                       "contrl.local=boys",
                                        "-o",
                                        "w.inp"});
     CHECK(outcome == Outcome{0, "", ""});
     CHECK(place.content_of("w.inp") ==
-          " $CONTRL SCFTYP=UHF RUNTYP=OPTIMIZE ICHARG=1 MULT=2 MAXIT=60 $END\n"
+          " $CONTRL SCFTYP=UHF RUNTYP=OPTIMIZE ICHARG=1 MULT=2 LOCAL=boys $END\n"
           " $BASIS GBASIS=CCD $END\n"
-          " $STATPT NSTEP=50 $END\n"
+          " $STATPT OPTTOL=1E-5 $END\n"
           " $SCF DIRSCF=.t. $END\n"
-          " $DATA\nCation\nCnv 2\n" +
+          " $DATA\nCation\nCnv 2\n\n" +
               std::string{atoms} + " $END\n");
 }
 
@@ -94,8 +94,35 @@ TEST_CASE("What is odd about a new deck is said, and the deck is written all the
     CHECK(outcome.err ==
           "odd.xyz: warning: 'Xx' is no element; it is written with charge 0.0\n"
           "odd.xyz: warning: no basis set: give --basis or --set BASIS.GBASIS=...\n"
-          "odd.xyz: warning: SCFTYP=RHF stands for singlets only: give --scftyp ROHF or UHF\n");
+          "odd.xyz: warning: SCFTYP=RHF stands for singlets only: give --scftyp ROHF or UHF\n"
+          "odd.inp:1:44: error: 0 electrons do not go with MULT=2: the charges of the atoms are 0 "
+          "in all, ICHARG is 0 [electron-count]\n");
     CHECK(place.content_of("odd.inp").find(" Xx   0.0 ") != std::string::npos);
+}
+
+TEST_CASE("What GAMESS would not take of a new deck is said with its place in the deck") {
+    const Workplace place;
+    place.make("w.xyz", molecule);
+    const Outcome outcome = place.run({"new", "--xyz", "w.xyz", "--basis", "n31", "--point-group",
+                                       "nosuch", "--set", "scf.dirskf=.t."});
+    CHECK(outcome.status == 0);
+    CHECK(outcome.err.find("<stdout>:6:1: error: GAMESS knows no point group") !=
+          std::string::npos);
+    CHECK(outcome.err.find("[point-group-name]\n") != std::string::npos);
+    CHECK(outcome.err.find("did you mean DIRSCF? [unknown-keyword]\n") != std::string::npos);
+}
+
+TEST_CASE("A title or a point group that would end the molecule is refused") {
+    const Workplace place;
+    place.make("end.xyz", "1\nthe $end\nHe 0 0 0\n");
+    place.make("he.xyz", "1\nhelium\nHe 0 0 0\n");
+    const Outcome refused{2, "",
+                          "gms-inp: error: the title or the point group would end $DATA; --title "
+                          "and --point-group give others\n"};
+    CHECK(place.run({"new", "--xyz", "end.xyz", "--basis", "n31"}) == refused);
+    CHECK(place.run({"new", "--xyz", "he.xyz", "--title", "$CONTRL MULT=3"}) == refused);
+    CHECK(place.run({"new", "--xyz", "he.xyz", "--point-group", "C1 $END"}) == refused);
+    CHECK(place.run({"new", "--xyz", "end.xyz", "--basis", "n31", "--title", "He"}).status == 0);
 }
 
 TEST_CASE("A new deck never replaces its molecule, and values that do not read back are refused") {
@@ -106,7 +133,7 @@ TEST_CASE("A new deck never replaces its molecule, and values that do not read b
     const Outcome outcome = place.run({"new", "--xyz", "w.xyz", "--set", "PCM.SOLVNT=A$B"});
     CHECK(outcome.status == 2);
     CHECK(outcome.out.empty());
-    CHECK(outcome.err == "gms-inp: error: Value cannot be read back: A$B\n");
+    CHECK(outcome.err == "gms-inp: error: $PCM.SOLVNT: Value cannot be read back: A$B\n");
 }
 
 TEST_CASE("Wrong usage of new has status 2") {

@@ -13,7 +13,7 @@ TEST_CASE("Without an argument all groups are listed, sorted") {
                                            "ALPDR   raw                0\n"
                                            "BASIS   structured         2\n"
                                            "CISVEC  raw                0\n"
-                                           "CONTRL  structured         4\n"
+                                           "CONTRL  structured         5\n"
                                            "DATA    raw                0\n"
                                            "DATAL   raw                0\n"
                                            "DATAS   raw                0\n"
@@ -42,11 +42,12 @@ TEST_CASE("A group is shown with its keywords, sorted") {
     const Workplace place;
     CHECK(place.run({"schema", "$contrl"}).out ==
           "group   mode        keywords  same as\n"
-          "CONTRL  structured         4\n"
+          "CONTRL  structured         5\n"
           "\n"
           "keyword  kind   type   indexed  repeated\n"
           "ICHARG   value  int    no       no\n"
           "LOCAL    value  token  no       no\n"
+          "MULT     value  int    no       no\n"
           "RUNTYP   value  token  no       no\n"
           "SCFTYP   value  token  no       no\n");
 }

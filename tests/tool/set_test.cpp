@@ -56,6 +56,22 @@ TEST_CASE("A group that is missing comes in front of the molecule") {
           " $SCF DIRSCF=.T. $END\n $DATA\nT\nC1\nH 1\n $END\n");
 }
 
+TEST_CASE("A group is not added behind one that is not closed") {
+    const Workplace place;
+    CHECK(place.run({"set", "-", "SYSTEM.MWORDS=5"},
+                    {.input = " $BASIS GBASIS=STO\n $DATA\nt\nC1\nHe 2 0 0 0\n $END\n"}) ==
+          Outcome{2, "", "<stdin>: error: $SYSTEM.MWORDS: Section is not closed by $END: BASIS\n"});
+}
+
+TEST_CASE("A group that is added although GAMESS does not see the one of the deck is told") {
+    const Workplace place;
+    const std::string deck = "$SCF DIRSCF=.T. $END\n $CONTRL SCFTYP=RHF $END\n";
+    CHECK(place.run({"set", "-", "SCF.MAXIT=2", "CONTRL.MULT=1"}, {.input = deck}) ==
+          Outcome{0, "$SCF DIRSCF=.T. $END\n $CONTRL SCFTYP=RHF MULT=1 $END\n $SCF MAXIT=2 $END\n",
+                  "<stdin>: note: $SCF is added; GAMESS does not see the one in line 1, whose $ is "
+                  "not in column 2 behind a blank\n"});
+}
+
 TEST_CASE("A value may hold points, commas and blanks") {
     const Workplace place;
     const Outcome outcome = place.run({"set", "-", "PCM.A(2)=1.5,2.5", "PCM.NAME=two words"},
@@ -112,9 +128,9 @@ TEST_CASE("The molecule and orbitals have no keywords to set") {
     const Workplace place;
     place.make("water.inp", water);
     CHECK(place.run({"set", "water.inp", "DATA.X=1"}) ==
-          Outcome{2, "", "water.inp: error: $DATA does not support key=value editing\n"});
+          Outcome{2, "", "water.inp: error: $DATA.X: $DATA does not support key=value editing\n"});
     CHECK(place.run({"set", "water.inp", "VEC.X=1"}) ==
-          Outcome{2, "", "water.inp: error: $VEC does not support key=value editing\n"});
+          Outcome{2, "", "water.inp: error: $VEC.X: $VEC does not support key=value editing\n"});
 }
 
 TEST_CASE("A value that would read back as something else is refused") {
@@ -122,8 +138,9 @@ TEST_CASE("A value that would read back as something else is refused") {
     place.make("water.inp", water);
     for (const std::string value : {"1 B=2", "1 $END", "$1", "1 ! 2"}) {
         CAPTURE(value);
-        CHECK(place.run({"set", "water.inp", "SCF.A=" + value, "-o", "out.inp"}) ==
-              Outcome{2, "", "water.inp: error: Value cannot be read back: " + value + "\n"});
+        CHECK(
+            place.run({"set", "water.inp", "SCF.A=" + value, "-o", "out.inp"}) ==
+            Outcome{2, "", "water.inp: error: $SCF.A: Value cannot be read back: " + value + "\n"});
         CHECK(place.names() == std::vector<std::string>{"water.inp"});
     }
     CHECK(place.run({"set", "water.inp", "MY GROUP.A=1"}).status == 2);

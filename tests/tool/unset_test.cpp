@@ -56,9 +56,9 @@ TEST_CASE("When something named is not there, all of that is named and nothing i
 
 TEST_CASE("A group that GAMESS does not see is not there to be removed") {
     const Workplace place;
-    CHECK(place.run({"unset", "-", "PCM"}, {.input = "$PCM A=1 $END\n"}) ==
+    CHECK(place.run({"unset", "-", "SCF"}, {.input = "$SCF A=1 $END\n"}) ==
           Outcome{1, "",
-                  "<stdin>: error: $PCM is not in the deck; GAMESS does not see the one in line 1, "
+                  "<stdin>: error: $SCF is not in the deck; GAMESS does not see the one in line 1, "
                   "whose $ is not in column 2 behind a blank\n"});
 }
 

@@ -74,13 +74,10 @@ TEST_CASE("Wrong usage gives a message on standard error and status 2") {
     const Workplace place;
     const std::vector<std::vector<std::string>> usages{
         {},
-        {"nosuch"},
         {"--nosuch"},
         {"check"},
         {"list"},
         {"list", "a", "b"},
-        {"get", "a"},
-        {"set", "a"},
         {"unset"},
         {"check", "--wrong"},
         {"format", "-o"},
@@ -88,7 +85,6 @@ TEST_CASE("Wrong usage gives a message on standard error and status 2") {
         {"--schema"},
         {"get"},
         {"set"},
-        {"unset", "a"},
         {"format"},
         {"diff", "a"},
         {"diff", "a", "b", "c"},
@@ -104,6 +100,26 @@ TEST_CASE("Wrong usage gives a message on standard error and status 2") {
         CHECK(outcome.out.empty());
         CHECK(outcome.err.ends_with("\nRun with --help for more information.\n"));
     }
+}
+
+TEST_CASE("A word that is no command is told, with the command that may be meant") {
+    const Workplace place;
+    CHECK(place.run({"chek", "a.inp"}) ==
+          Outcome{2, "", "gms-inp: error: there is no command 'chek'; did you mean 'check'?\n"});
+    CHECK(
+        place.run({"frobnicate"}) ==
+        Outcome{2, "",
+                "gms-inp: error: there is no command 'frobnicate'; 'gms-inp --help' lists them\n"});
+}
+
+TEST_CASE("A deck without anything asked of it is told to lack that") {
+    const Workplace place;
+    for (const char* const command : {"get", "unset"})
+        CHECK(place.run({command, "a"}) ==
+              Outcome{2, "",
+                      "gms-inp: error: expected a deck and what is asked of it, not 'a' alone\n"});
+    CHECK(place.run({"set", "a"}) ==
+          Outcome{2, "", "gms-inp: error: no GROUP.KEY=VALUE is given\n"});
 }
 
 TEST_CASE("Control characters of arguments are escaped in messages about usage") {

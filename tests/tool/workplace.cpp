@@ -116,11 +116,4 @@ Outcome Workplace::run_on_terminal(const std::vector<std::string>& arguments,
     return outcome;
 }
 
-std::string as_written(std::string_view deck) {
-    constexpr std::string_view last_line = " $END\n";
-    std::string text{deck};
-    text.insert(text.size() - last_line.size(), " \n");
-    return text;
-}
-
 }  // namespace nurl::test

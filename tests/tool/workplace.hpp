@@ -77,8 +77,4 @@ inline constexpr std::string_view water =
     " H    1.0      0.0000000000     -0.7572000000     -0.4692000000\n"
     " $END\n";
 
-/// A deck that ends with `$DATA`, as it is written after reading: the blank in front of its last
-/// `$END` has become a line.
-[[nodiscard]] std::string as_written(std::string_view deck);
-
 }  // namespace nurl::test

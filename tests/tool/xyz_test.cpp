@@ -50,6 +50,16 @@ TEST_CASE("A faulty XYZ file is told by line, what was expected and what stands 
     }
 }
 
+TEST_CASE("A symbol that would be more than a symbol in a deck is refused") {
+    for (const std::string symbol : {"$END", "$CONTRL", "RUNTYP=HESSIAN", "!H", "H!"}) {
+        CAPTURE(symbol);
+        const XyzMolecule molecule = read_xyz("1\n\n" + symbol + " 0 0 0\n");
+        CHECK(molecule.faulty_line == 3);
+        CHECK(molecule.fault ==
+              "expected atom 1 of 1 as 'symbol x y z', found '" + symbol + " 0 0 0'");
+    }
+}
+
 TEST_CASE("A long faulty line is shown in part") {
     const XyzMolecule molecule = read_xyz(std::string(1000, 'x'));
     CHECK(molecule.fault ==

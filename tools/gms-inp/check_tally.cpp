@@ -36,7 +36,8 @@ std::string text_of(const CheckTally& tally) {
     if (tally.errors > 0) append(counted(tally.errors, "error"));
     if (tally.warnings > 0) append(counted(tally.warnings, "warning"));
     if (tally.notes > 0) append(counted(tally.notes, "note"));
-    if (tally.errors + tally.warnings + tally.notes == 0) append("no findings");
+    const bool checked_some = tally.files > tally.unreadable;
+    if (checked_some && tally.errors + tally.warnings + tally.notes == 0) append("no findings");
     if (tally.fixed > 0) append(std::to_string(tally.fixed) + " fixed");
     if (tally.unreadable > 0) append(std::to_string(tally.unreadable) + " unreadable");
     if (tally.unwritten > 0) append(std::to_string(tally.unwritten) + " not written");

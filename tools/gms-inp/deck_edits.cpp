@@ -74,6 +74,17 @@ ExitCode edit_file(const std::string& file, const EditTarget& target, const Deck
 
 }  // namespace
 
+void set_keywords(nurl::input::gamess::source::Deck& deck,
+                  const std::vector<Assignment>& assignments) {
+    for (const auto& [path, value] : assignments) {
+        try {
+            deck.set_keyword(path.group, path.key, value);
+        } catch (const std::runtime_error& error) {
+            throw std::runtime_error(text_of(path) + ": " + error.what());
+        }
+    }
+}
+
 void add_target_options(CLI::App& app, EditTarget& target) {
     CLI::Option* const output =
         app.add_option("-o,--output", target.output, "File to write, or - for standard output")

@@ -8,6 +8,7 @@
 
 #include "deck_source.hpp"
 #include "exit_code.hpp"
+#include "keyword_path.hpp"
 
 namespace CLI {  // NOLINT(readability-identifier-naming): not our name
 class App;
@@ -28,6 +29,12 @@ struct EditTarget {
 /// @return `ExitCode::Fine` when the deck is to be written
 /// @throws std::runtime_error when it cannot be done
 using DeckEdit = std::function<ExitCode(TextDeck&)>;
+
+/// Sets keywords, one behind the other.
+///
+/// @throws std::runtime_error when one cannot be set; the message names it
+void set_keywords(nurl::input::gamess::source::Deck& deck,
+                  const std::vector<Assignment>& assignments);
 
 /// Declares `-o` and `-i`, which exclude each other.
 void add_target_options(CLI::App& app, EditTarget& target);

@@ -1,5 +1,6 @@
 #include "deck_source.hpp"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstddef>
 #include <cstdint>
@@ -13,6 +14,7 @@
 
 #include "diagnostics.hpp"
 #include "nurl/input/gamess/reader.hpp"
+#include "nurl/input/gamess/schema.hpp"
 
 namespace gms_inp {
 
@@ -32,6 +34,14 @@ constexpr std::size_t block_size = 65536;
 
 [[noreturn]] void throw_no_deck(const std::string& name, std::string_view reason) {
     throw std::runtime_error(name + ": " + std::string{reason});
+}
+
+/// Whether a text is a deck: GAMESS sees a group, or would see one that is known if it stood in the
+/// right column. A script with a `$PATH` is none.
+bool is_deck(const source::Deck& deck) {
+    return std::ranges::any_of(deck.sections(), [](const source::Group& group) {
+        return group.visible || nurl::input::gamess::schema::find_section(group.name) != nullptr;
+    });
 }
 
 std::string read_stdin() {
@@ -69,7 +79,7 @@ std::string read_text(const std::string& path) {
 
 TextDeck read_deck(const std::string& path) {
     TextDeck deck{.name = shown_name(path), .content = source::Deck{read_text(path)}};
-    if (deck.content.sections().empty()) throw_no_deck(deck.name, no_groups);
+    if (!is_deck(deck.content)) throw_no_deck(deck.name, no_groups);
     return deck;
 }
 

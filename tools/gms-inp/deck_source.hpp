@@ -12,7 +12,8 @@ namespace gms_inp {
 /// A deck as its text.
 struct TextDeck {
     std::string name;                           ///< how messages call it
-    nurl::input::gamess::source::Deck content;  ///< its text, indexed; has a group
+    nurl::input::gamess::source::Deck content;  ///< its text, indexed; has a group that
+                                                ///< GAMESS sees or that is known
 };
 
 /// A deck as the document model holds it.
@@ -31,10 +32,11 @@ struct ModelDeck {
 /// Reads a deck to look at its text or to edit it.
 ///
 /// @param path  a file, or `-` for standard input
-/// @throws std::runtime_error when it cannot be read, or holds no group; the message names it
+/// @throws std::runtime_error when it cannot be read, or holds no group that GAMESS sees and none
+///         that is known, as a script with a `$PATH`; the message names it
 [[nodiscard]] TextDeck read_deck(const std::string& path);
 
-/// Reads a deck into the document model, with the same demands.
+/// Reads a deck into the document model. Any group will do.
 [[nodiscard]] ModelDeck read_model(const std::string& path);
 
 }  // namespace gms_inp

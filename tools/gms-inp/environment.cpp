@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <stdexcept>
 #include <system_error>
 
@@ -18,6 +19,7 @@ void use_schema_file(const std::string& path) {
     if (!std::filesystem::is_regular_file(path, error)) {
         throw std::runtime_error("schema file is not a regular file: " + path);
     }
+    if (!std::ifstream{path}) throw std::runtime_error("cannot read schema file: " + path);
     // NOLINTNEXTLINE(concurrency-mt-unsafe): the program has one thread
     if (::setenv("NURL_GMS_INP_SCHEMA_YAML", path.c_str(), 1) != 0) {
         throw std::runtime_error("cannot set the schema file: " + path);

@@ -43,6 +43,12 @@ bool is_deck(const std::string& word) {
            (std::filesystem::exists(word, error) && !std::filesystem::is_directory(word, error));
 }
 
+void require_two(const std::vector<std::string>& words) {
+    if (words.size() < 2)
+        throw std::runtime_error("expected a deck and what is asked of it, not '" + words.front() +
+                                 "' alone");
+}
+
 SplitArguments split_at(std::vector<std::string> words, std::size_t count) {
     const auto middle = words.begin() + static_cast<std::ptrdiff_t>(count);
     SplitArguments split;
@@ -59,16 +65,18 @@ void add_words(CLI::App& app, std::vector<std::string>& words,
     const std::string& first = help.front().name;
     app.add_option(first.substr(0, first.find('.')), words)
         ->required()
-        ->expected(static_cast<int>(help.size()), CLI::detail::expected_max_vector_size);
+        ->expected(1, CLI::detail::expected_max_vector_size);
     app.formatter(std::make_shared<WordsFormatter>(help));
 }
 
 SplitArguments split_off_last(std::vector<std::string> words) {
+    require_two(words);
     const std::size_t count = words.size() - 1;
     return split_at(std::move(words), count);
 }
 
 SplitArguments split_paths(std::vector<std::string> words) {
+    require_two(words);
     std::size_t count = 1;
     while (count + 1 < words.size() && !words[count].starts_with('$') && is_deck(words[count]))
         ++count;

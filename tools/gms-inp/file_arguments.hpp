@@ -20,7 +20,7 @@ struct ArgumentHelp {
 
 /// Declares positional arguments that are told apart after parsing, and how the help shows them.
 ///
-/// @param words  where they go, at least as many as `help` has rows
+/// @param words  where they go, at least one
 void add_words(CLI::App& app, std::vector<std::string>& words,
                const std::vector<ArgumentHelp>& help);
 
@@ -32,13 +32,15 @@ struct SplitArguments {
 
 /// Takes the last word as what is asked for, all others as decks.
 ///
-/// @param words  at least two
+/// @param words  at least one
+/// @throws std::runtime_error when there is only one
 [[nodiscard]] SplitArguments split_off_last(std::vector<std::string> words);
 
 /// Takes decks up to the first word that names no existing file or begins with `$`. The first word
 /// is a deck and the last one is none in any case.
 ///
-/// @param words  at least two
+/// @param words  at least one
+/// @throws std::runtime_error when there is only one
 [[nodiscard]] SplitArguments split_paths(std::vector<std::string> words);
 
 /// Takes words that are `-` or an existing file as decks and words with a `=` as assignments, in

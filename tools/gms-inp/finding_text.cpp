@@ -14,9 +14,13 @@ std::string message_of(const source::Finding& finding) {
     return finding.hint.empty() ? finding.message : finding.message + "; " + finding.hint;
 }
 
+std::string ruled_message_of(const source::Finding& finding) {
+    return message_of(finding) + " [" + finding.rule + ']';
+}
+
 std::string line_of(const std::string& name, Weight weight, const source::Finding& finding,
                     Colour colour) {
-    const std::string message = message_of(finding) + " [" + finding.rule + ']';
+    const std::string message = ruled_message_of(finding);
     return format({.place = name,
                    .line = finding.position.line,
                    .column = finding.position.column,

@@ -15,6 +15,9 @@ namespace gms_inp {
 /// The message of a finding with its hint behind it.
 [[nodiscard]] std::string message_of(const nurl::input::gamess::source::Finding& finding);
 
+/// The same with the name of the rule behind it, `message; hint [rule]`.
+[[nodiscard]] std::string ruled_message_of(const nurl::input::gamess::source::Finding& finding);
+
 /// A finding as one line, `name:line:column: weight: message; hint [rule]`, and a newline.
 [[nodiscard]] std::string line_of(const std::string& name, Weight weight,
                                   const nurl::input::gamess::source::Finding& finding,

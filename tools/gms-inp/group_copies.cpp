@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <utility>
 
 #include "ascii.hpp"
 
@@ -12,15 +13,12 @@ namespace source = nurl::input::gamess::source;
 
 namespace {
 
-/// Says where a group of the name stands that GAMESS does not see; empty when there is none.
-std::string unseen_group(const source::Deck& deck, const std::string& name) {
-    const auto groups = deck.sections();
-    const auto hit = std::ranges::find_if(groups, [&name](const source::Group& group) {
-        return !group.visible && group.name == name;
-    });
-    if (hit == groups.end()) return {};
-    return "; GAMESS does not see the one in line " + std::to_string(hit->line) +
-           ", whose $ is not in column 2 behind a blank";
+/// A sentence, and behind it where GAMESS does not see a group of the name.
+std::string with_unseen_group(std::string sentence, const source::Deck& deck,
+                              const std::string& name) {
+    const std::string unseen = unseen_group(deck, name);
+    if (!unseen.empty()) sentence += "; " + unseen;
+    return sentence;
 }
 
 std::size_t end_of(const source::Deck& deck, const source::Group& group) {
@@ -31,6 +29,16 @@ std::size_t end_of(const source::Deck& deck, const source::Group& group) {
 }
 
 }  // namespace
+
+std::string unseen_group(const source::Deck& deck, const std::string& name) {
+    const auto groups = deck.sections();
+    const auto hit = std::ranges::find_if(groups, [&name](const source::Group& group) {
+        return !group.visible && group.name == name;
+    });
+    if (hit == groups.end()) return {};
+    return "GAMESS does not see the one in line " + std::to_string(hit->line) +
+           ", whose $ is not in column 2 behind a blank";
+}
 
 std::vector<source::Group> find_copies(const source::Deck& deck, const GroupPath& path) {
     std::vector<source::Group> copies = deck.find_all(path.group);
@@ -43,7 +51,7 @@ std::vector<source::Group> find_copies(const source::Deck& deck, const GroupPath
 std::string absence_of(const source::Deck& deck, const GroupPath& path) {
     std::string sentence = text_of(path) + " is not in the deck";
     const std::size_t count = deck.find_all(path.group).size();
-    if (count == 0) return sentence + unseen_group(deck, path.group);
+    if (count == 0) return with_unseen_group(std::move(sentence), deck, path.group);
     return sentence + ", which has $" + path.group + (count == 1 ? " once" : "") +
            (count == 1 ? "" : " " + std::to_string(count) + " times");
 }
@@ -51,7 +59,7 @@ std::string absence_of(const source::Deck& deck, const GroupPath& path) {
 std::string absence_of(const source::Deck& deck, const KeywordPath& path) {
     std::string sentence = text_of(path) + " is not in the deck";
     if (!deck.find_all(path.group).empty()) return sentence;
-    return sentence + unseen_group(deck, path.group);
+    return with_unseen_group(std::move(sentence), deck, path.group);
 }
 
 std::string_view written_text(const source::Deck& deck, const source::Group& group) {

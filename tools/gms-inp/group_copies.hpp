@@ -15,6 +15,10 @@ namespace gms_inp {
 [[nodiscard]] std::vector<nurl::input::gamess::source::Group> find_copies(
     const nurl::input::gamess::source::Deck& deck, const GroupPath& path);
 
+/// Where a group of a name stands that GAMESS does not see, and why; empty when there is none.
+[[nodiscard]] std::string unseen_group(const nurl::input::gamess::source::Deck& deck,
+                                       const std::string& name);
+
 /// A sentence that a group, or the copy asked for, is not there: with the number of copies when
 /// there are fewer, and with the place of a group of that name that GAMESS does not see.
 [[nodiscard]] std::string absence_of(const nurl::input::gamess::source::Deck& deck,

@@ -65,8 +65,9 @@ Assignment parse_assignment(std::string_view argument) {
         .path = {.group = group_name(argument.substr(0, point)),
                  .key = to_upper(trim(argument.substr(point + 1, equals - point - 1)))},
         .value = std::string{trim(argument.substr(equals + 1))}};
-    const bool complete =
-        !assignment.path.group.empty() && !assignment.path.key.empty() && !assignment.value.empty();
+    const bool complete = !assignment.path.group.empty() &&
+                          assignment.path.group.find('#') == std::string::npos &&
+                          !assignment.path.key.empty() && !assignment.value.empty();
     if (!complete) throw_bad_shape(argument, wanted);
     return assignment;
 }

@@ -3,7 +3,10 @@
 #include <cstdio>
 #include <exception>
 #include <sstream>
+#include <stdexcept>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include <CLI/CLI.hpp>
 
@@ -12,6 +15,7 @@
 #include "environment.hpp"
 #include "exit_code.hpp"
 #include "output.hpp"
+#include "rule_names.hpp"
 #include "terminal.hpp"
 
 namespace gms_inp {
@@ -44,8 +48,21 @@ FILE may be - for standard input.
 
 )";
 
+/// Refuses a command line whose first word is no command.
+void require_command(const CLI::App& app) {
+    const std::vector<std::string> words = app.remaining();
+    if (!app.get_subcommands().empty() || words.empty() || words[0].starts_with('-')) return;
+    std::vector<std::string_view> names;
+    for (const Command& command : commands) names.emplace_back(command.name);
+    const std::string_view hint = nearest(words[0], names);
+    throw std::runtime_error("there is no command '" + words[0] +
+                             (hint.empty() ? "'; 'gms-inp --help' lists them"
+                                           : "'; did you mean '" + std::string{hint} + "'?"));
+}
+
 /// Tells the outcome of parsing that ended the program: help, version or wrong usage.
 ExitCode report(const CLI::App& app, const CLI::ParseError& outcome) {
+    require_command(app);
     std::ostringstream out;
     std::ostringstream err;
     const int status = app.exit(outcome, out, err);

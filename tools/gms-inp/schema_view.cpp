@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "ascii.hpp"
+#include "diagnostics.hpp"
 
 namespace gms_inp {
 
@@ -52,6 +53,18 @@ std::vector<GroupView> groups_of_schema() {
 std::optional<GroupView> group_of_schema(std::string_view name) {
     if (schema::find_section(name) == nullptr) return std::nullopt;
     return view_of(schema::normalize_section_name(name), names_by_spec());
+}
+
+void warn_of_empty_schema() {
+    const std::vector<std::string> names = schema::section_names();
+    const bool lists_keywords = std::ranges::any_of(names, [](const std::string& name) {
+        return !schema::find_section(name)->entries.empty();
+    });
+    if (lists_keywords) return;
+    complain(
+        {.place = "gms-inp",
+         .weight = Weight::Warning,
+         .message = "the schema lists no keywords, so none is known; --schema names its file"});
 }
 
 std::string_view text_of(schema::SectionParseMode mode) noexcept {

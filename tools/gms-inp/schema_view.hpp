@@ -31,6 +31,9 @@ struct GroupView {
 /// One group, or nothing when the schema does not know it.
 [[nodiscard]] std::optional<GroupView> group_of_schema(std::string_view name);
 
+/// Says on standard error when the schema lists no keyword of any group, as without a schema file.
+void warn_of_empty_schema();
+
 /// The word for a mode, lower case.
 [[nodiscard]] std::string_view text_of(nurl::input::gamess::schema::SectionParseMode mode) noexcept;
 

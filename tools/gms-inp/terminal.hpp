@@ -14,7 +14,8 @@ enum class Keep {
     LineEnds,  ///< newline and tab stay: for text of several lines
 };
 
-/// Writes control characters as `\xNN`: bytes below 0x20, 0x7F, and U+0080 to U+009F in UTF-8.
+/// Writes control characters as `\xNN`: bytes below 0x20, 0x7F, U+0080 to U+009F in UTF-8, and
+/// bytes from 0x80 to 0x9F that are no part of a character of UTF-8.
 ///
 /// All other bytes pass through.
 ///

@@ -18,6 +18,7 @@ using nurl::input::gamess::AtomRecord;
 
 constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
 constexpr std::size_t atom_words = 4;
+constexpr std::string_view marks_of_decks = "$=!";
 
 /// Gives the lines of a text and counts them.
 class Lines {
@@ -59,6 +60,7 @@ bool read_real(std::string_view text, double& value) {
 std::optional<AtomRecord> read_atom(std::string_view line) {
     const std::vector<std::string_view> words = words_of(line);
     if (words.size() < atom_words) return std::nullopt;
+    if (words[0].find_first_of(marks_of_decks) != std::string_view::npos) return std::nullopt;
     AtomRecord atom{std::string{words[0]}, std::nullopt, 0.0, 0.0, 0.0};
     const bool reads =
         read_real(words[1], atom.x) && read_real(words[2], atom.y) && read_real(words[3], atom.z);

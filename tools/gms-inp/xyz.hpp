@@ -21,7 +21,8 @@ struct XyzMolecule {
 
 /// Reads an XYZ file: the number of atoms, a comment line, and a line `symbol x y z` for each atom,
 /// coordinates in angstrom. Further columns do not count; behind the last atom only blank lines may
-/// follow, so a trajectory is refused. Exponents may be written with `E` or `D`.
+/// follow, so a trajectory is refused. Exponents may be written with `E` or `D`. A symbol with a
+/// `$`, `=` or `!` is refused, since it would be more than a symbol in a deck.
 ///
 /// Linear in the length of the text; nothing is thrown for content.
 [[nodiscard]] XyzMolecule read_xyz(std::string_view text);

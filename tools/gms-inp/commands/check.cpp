@@ -18,6 +18,7 @@
 #include "fixes.hpp"
 #include "progress.hpp"
 #include "rule_names.hpp"
+#include "schema_view.hpp"
 
 namespace gms_inp {
 
@@ -140,6 +141,7 @@ ExitCode run(const Options& options) {
     const bool reads_stdin = std::ranges::find(options.files, "-") != options.files.end();
     if (options.fix && reads_stdin)
         throw std::runtime_error("standard input cannot be fixed in place");
+    warn_of_empty_schema();
     return Check{options, format}.run();
 }
 

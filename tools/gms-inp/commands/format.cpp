@@ -7,14 +7,17 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <system_error>
 #include <vector>
 
 #include <CLI/CLI.hpp>
 
+#include "ascii.hpp"
 #include "command.hpp"
 #include "deck_edits.hpp"
 #include "deck_source.hpp"
+#include "deck_walk.hpp"
 #include "diagnostics.hpp"
 #include "difference_text.hpp"
 #include "layout_losses.hpp"
@@ -85,11 +88,25 @@ std::vector<std::string> changes_of_meaning(const source::Deck& before, const so
             place_of(differences.front())};
 }
 
+/// The document without the line that the blank in front of the `$END` of $DATA is read as. The
+/// layout has that blank of its own; with the line it would grow by one each time.
+nurl::input::gamess::GamessInput without_blank_at_end(std::string_view text,
+                                                      nurl::input::gamess::GamessInput input) {
+    bool has_blank = false;
+    DeckWalk walk{text};
+    while (const auto line = walk.next())
+        if (line->group == "DATA" && line->closes)
+            has_blank =
+                line->role == LineRole::Body && !line->text.empty() && trim(line->text).empty();
+    if (has_blank && !input.data_lines.empty()) input.data_lines.pop_back();
+    return input;
+}
+
 ExitCode lay_out_anew(TextDeck& deck, const Options& options) {
     const std::string& text = deck.content.text();
     const auto read = nurl::input::gamess::parse_string(text);
     if (!read.ok) throw std::runtime_error(read.error);
-    source::Deck written{read.input.to_string()};
+    source::Deck written{without_blank_at_end(text, read.input).to_string()};
     if (!options.target.only_look) {
         std::vector<std::string> losses = layout_losses(text, read.input, written.text());
         std::ranges::move(changes_of_meaning(deck.content, written), std::back_inserter(losses));

@@ -1,14 +1,19 @@
 #include <memory>
 #include <optional>
+#include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <CLI/CLI.hpp>
 
 #include "command.hpp"
+#include "deck_edits.hpp"
 #include "deck_output.hpp"
 #include "deck_source.hpp"
 #include "diagnostics.hpp"
+#include "finding_text.hpp"
+#include "fixes.hpp"
 #include "keyword_path.hpp"
 #include "nurl/input/gamess/builder.hpp"
 #include "nurl/input/gamess/reader.hpp"
@@ -24,7 +29,8 @@ namespace gamess = nurl::input::gamess;
 constexpr const char* footer =
     R"(The XYZ file holds one molecule: the number of atoms, a comment, and 'symbol x y z'
 for each atom in angstrom. The comment becomes the title unless --title is given.
-Without options the deck asks for the RHF energy of a neutral singlet in C1.
+Without options the deck asks for the RHF energy of a neutral singlet in C1. What
+'gms-inp check' would find in the deck is said, and mended where it is safe to.
 
 Examples:
   gms-inp new --xyz water.xyz --basis N31 --set BASIS.NGAUSS=6 -o water.inp
@@ -56,7 +62,7 @@ gamess::InputBuilder build(const Options& options, const XyzMolecule& molecule) 
     return builder;
 }
 
-/// Says what is odd about a deck that can be written all the same.
+/// Says what the molecule and the options ask for that can be written all the same.
 ///
 /// @param atoms  as they were built
 /// @param input  what is read from the deck
@@ -71,6 +77,31 @@ void warn_of_oddities(const std::string& name, const std::vector<gamess::AtomRec
     if (!input.basis) warn("no basis set: give --basis or --set BASIS.GBASIS=...");
     if (input.control.scftyp == "RHF" && input.control.mult != 1)
         warn("SCFTYP=RHF stands for singlets only: give --scftyp ROHF or UHF");
+}
+
+/// Mends what is safe to mend, such as the blank card that a point group other than C1 needs, and
+/// says what GAMESS will not take or may take otherwise.
+gamess::source::Deck checked(const std::string& output, const gamess::source::Deck& deck) {
+    FixedDeck mended = fix_deck(deck, {});
+    for (const gamess::source::Finding& finding : mended.remains) {
+        const Weight weight = weight_of(finding.severity);
+        if (weight == Weight::Info) continue;
+        complain({.place = output == "-" ? "<stdout>" : output,
+                  .line = finding.position.line,
+                  .column = finding.position.column,
+                  .weight = weight,
+                  .message = ruled_message_of(finding)});
+    }
+    return std::move(mended.deck);
+}
+
+/// The deck as text, when its title and point group are no more than that.
+gamess::source::Deck written(const gamess::GamessInput& built) {
+    std::string text = built.to_string();
+    if (gamess::parse_string(text).input.atoms.size() != built.atoms.size())
+        throw std::runtime_error(
+            "the title or the point group would end $DATA; --title and --point-group give others");
+    return gamess::source::Deck{std::move(text)};
 }
 
 ExitCode run(const Options& options) {
@@ -88,10 +119,11 @@ ExitCode run(const Options& options) {
         return ExitCode::Trouble;
     }
     const gamess::GamessInput built = build(options, molecule).input();
-    gamess::source::Deck deck{built.to_string()};
-    for (const auto& [path, value] : assignments) deck.set_keyword(path.group, path.key, value);
+    gamess::source::Deck deck = written(built);
+    set_keywords(deck, assignments);
     warn_of_oddities(name, built.atoms, gamess::parse_string(deck.text()).input);
-    write_output(options.output, deck.text());
+    const gamess::source::Deck mended = checked(options.output, deck);
+    write_output(options.output, mended.text());
     return ExitCode::Fine;
 }
 

@@ -121,6 +121,7 @@ ExitCode print_keyword(const KeywordView& keyword, const Options& options) {
 }
 
 ExitCode run(const Options& options) {
+    warn_of_empty_schema();
     if (options.path.empty()) return print_all_groups(options);
     const KeywordPath path = parse_path(options.path);
     if (const auto group = group_of_schema(path.group)) {

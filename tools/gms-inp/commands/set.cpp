@@ -7,7 +7,9 @@
 #include "command.hpp"
 #include "deck_edits.hpp"
 #include "deck_source.hpp"
+#include "diagnostics.hpp"
 #include "file_arguments.hpp"
+#include "group_copies.hpp"
 #include "keyword_path.hpp"
 
 namespace gms_inp {
@@ -34,6 +36,17 @@ struct Options {
     std::vector<std::string> words;
 };
 
+/// Says which groups are added although the deck has them, where GAMESS does not see them.
+void tell_unseen_groups(const TextDeck& deck, const std::vector<Assignment>& assignments) {
+    for (const Assignment& assignment : assignments) {
+        const std::string& group = assignment.path.group;
+        const std::string unseen = unseen_group(deck.content, group);
+        if (unseen.empty() || !deck.content.find_all(group).empty()) continue;
+        const std::string message = "$" + group + " is added; " + unseen;
+        complain({.place = deck.name, .weight = Weight::Note, .message = message});
+    }
+}
+
 ExitCode run(const Options& options) {
     const SplitArguments arguments = split_assignments(options.words);
     std::vector<Assignment> assignments;
@@ -41,8 +54,8 @@ ExitCode run(const Options& options) {
     EditTarget target = options.target;
     target.files = arguments.files;
     return edit_decks(target, [&assignments](TextDeck& deck) {
-        for (const auto& [path, value] : assignments)
-            deck.content.set_keyword(path.group, path.key, value);
+        tell_unseen_groups(deck, assignments);
+        set_keywords(deck.content, assignments);
         return ExitCode::Fine;
     });
 }

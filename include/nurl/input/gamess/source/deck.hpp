@@ -241,7 +241,9 @@ public:
     /// front of the first `$DATA`, or at the end when there is none, and follows the line ends and
     /// the letter case of the headers around it. A blank name and `DATA` change nothing.
     ///
-    /// @throws std::runtime_error "Section cannot be read back: " and the name when it is no word
+    /// @throws std::runtime_error "Section cannot be read back: " and the name when it is no word;
+    ///         "Section is not closed by $END: " and the name of the group in front of the place,
+    ///         of which a new group would be read as a part
     NURL_GMS_INP_EXPORT void ensure_section(std::string_view name);
 
     /// Removes all visible copies of a group, each with its whole lines where nothing else stands
