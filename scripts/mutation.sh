@@ -2,7 +2,7 @@
 # Puts thousands of small faults into src/ and platform/, one at a time, and says which of them no test notices.
 # All are compiled in at once (scripts/mutation/mutate.py), so the sources are built once.
 #
-#   scripts/mutation.sh [FOLDER...]      with folders, only what lies in them
+#   scripts/mutation.sh [PATH...]      with files and folders, only what they hold
 #
 # Fails when less than 95 % are noticed, or when one is not that scripts/mutation/survivors.txt does
 # not explain. All results stay in build/mutation/results.tsv. Takes about half an hour.
@@ -40,8 +40,8 @@ quietly cmake --build "$build/out" --parallel "$(nproc)" --target "${programs[@]
 rows=$build/mutants.tsv
 if [[ $# -gt 0 ]]; then
     rows=$build/chosen.tsv
-    folders=$(printf '|%s' "${@%/}")
-    grep -P "^\d+\t(${folders:1})/" "$build/mutants.tsv" >"$rows"
+    paths=$(printf '|%s' "${@%/}")
+    grep -P "^\d+\t(${paths:1})[/\t]" "$build/mutants.tsv" >"$rows"
 fi
 export NURL_GMS_INP_SCHEMA_YAML=$PWD/share/nurllib/schemas/input/gamess.yaml
 python3 -B "$here/run.py" "$rows" "$here/survivors.txt" "$build/results.tsv" "${programs[@]}"

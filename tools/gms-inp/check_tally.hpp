@@ -6,7 +6,7 @@
 #include <span>
 #include <string>
 
-#include <nlohmann/json.hpp>
+#include <nlohmann/json_fwd.hpp>
 
 #include "exit_code.hpp"
 #include "nurl/input/gamess/source/check.hpp"

@@ -5,6 +5,8 @@
 #include <optional>
 #include <string_view>
 
+#include <nlohmann/json.hpp>
+
 #include "terminal.hpp"
 
 namespace gms_inp {

@@ -5,7 +5,7 @@
 #include <span>
 #include <string>
 
-#include <nlohmann/json.hpp>
+#include <nlohmann/json_fwd.hpp>
 
 #include "nurl/input/gamess/source/compare.hpp"
 

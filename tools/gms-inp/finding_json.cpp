@@ -1,5 +1,7 @@
 #include "finding_json.hpp"
 
+#include <nlohmann/json.hpp>
+
 #include "finding_text.hpp"
 
 namespace gms_inp {

@@ -4,7 +4,7 @@
 
 #include <span>
 
-#include <nlohmann/json.hpp>
+#include <nlohmann/json_fwd.hpp>
 
 #include "line_table.hpp"
 #include "nurl/input/gamess/source/check.hpp"

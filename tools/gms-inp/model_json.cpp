@@ -1,5 +1,7 @@
 #include "model_json.hpp"
 
+#include <nlohmann/json.hpp>
+
 namespace gms_inp {
 
 namespace {

@@ -5,6 +5,8 @@
 #include <variant>
 #include <vector>
 
+#include <nlohmann/json.hpp>
+
 #include "nurl/input/gamess/typed/fields.hpp"
 
 namespace gms_inp {

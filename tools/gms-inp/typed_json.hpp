@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include <nlohmann/json.hpp>
+#include <nlohmann/json_fwd.hpp>
 
 #include "nurl/input/gamess/model.hpp"
 

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include <CLI/CLI.hpp>
+#include <nlohmann/json.hpp>
 
 #include "command.hpp"
 #include "deck_source.hpp"
